@@ -1,0 +1,75 @@
+#!/usr/bin/env bash
+# The one test command: installs what is missing, builds the native and the Windows cross
+# build, runs both test suites (the Windows one under Wine) and checks that both ran the
+# same number of GoogleTest cases.
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root"
+
+jobs=$(nproc 2>/dev/null || echo 2)
+presets=(linux windows)
+
+"$root/scripts/install-deps.sh"
+
+for preset in "${presets[@]}"; do
+    echo "== configure and build: $preset"
+    cmake --preset "$preset"
+    cmake --build --preset "$preset" --parallel "$jobs"
+done
+
+# Tests that open windows need an X display; one virtual server serves the whole session.
+display_wrapper=()
+if [[ -z "${DISPLAY:-}" ]]; then
+    display_wrapper=(xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp")
+fi
+
+status=0
+for preset in "${presets[@]}"; do
+    echo "== test: $preset"
+    if [[ $preset == windows ]]; then
+        "${display_wrapper[@]}" ctest --preset "$preset" --parallel "$jobs" || status=1
+    else
+        ctest --preset "$preset" --parallel "$jobs" || status=1
+    fi
+done
+
+# Prints "<ctest test name> <gtest cases run>" for each test in a build's last CTest log.
+gtest_counts() {
+    local log="$root/build/$1/Testing/Temporary/LastTest.log"
+    [[ -f $log ]] || return 0
+    tr -d '\r' <"$log" | awk '
+        /^[0-9]+\/[0-9]+ Test: / { name = $3 }
+        /^\[==========\] [0-9]+ tests? from .* ran\./ { count[name] += $2 }
+        END { for (n in count) print n, count[n] }' | sort
+}
+
+declare -A native wine
+while read -r name count; do native[$name]=$count; done < <(gtest_counts linux)
+while read -r name count; do wine[$name]=$count; done < <(gtest_counts windows)
+
+# Only tests present in both builds are compared; the Win32 tests exist in the cross build only.
+native_total=0
+wine_total=0
+for name in "${!native[@]}"; do
+    if [[ -n ${wine[$name]:-} ]]; then
+        native_total=$((native_total + native[$name]))
+        wine_total=$((wine_total + wine[$name]))
+    fi
+done
+for name in "${!wine[@]}"; do
+    if [[ -z ${native[$name]:-} ]]; then
+        echo "Windows-only test $name: ${wine[$name]} gtest cases"
+    fi
+done
+
+if [[ $native_total -eq 0 || $wine_total -eq 0 ]]; then
+    echo "FAIL: gtest cases run natively: $native_total, under Wine: $wine_total (none is not enough)"
+    status=1
+elif [[ $native_total -ne $wine_total ]]; then
+    echo "FAIL: gtest cases run natively: $native_total, under Wine: $wine_total (they must match)"
+    status=1
+else
+    echo "OK: gtest cases run natively: $native_total, under Wine: $wine_total"
+fi
+exit "$status"
