@@ -1,0 +1,98 @@
+#include "model/Document.h"
+
+#include <limits>
+
+namespace rhomba {
+
+ViewState::ViewState() {
+    const double scale = zoom * kScaleAtZoom1;
+    view = Multiply(Matrix2D::Scaling(scale, -scale), Matrix2D::Translation(100, 800));
+    Invert(view, inverse);
+}
+
+Document::Document() {
+    // The document is object 1 of its own numbering.
+    id_ = 1;
+    owner_ = this;
+}
+
+bool Document::GetBounds(Rect2& bounds, bool withPenWidth) {
+    bounds = {kEmptyBox, -kEmptyBox, -kEmptyBox, kEmptyBox};
+    return Group::GetBounds(bounds, withPenWidth);
+}
+
+GraphicObject* Document::HitTest(Point2 probe, double tolerance) {
+    tolerance /= view.zoom;
+    for (std::size_t i = 0; i < LayerCount(); ++i) {
+        if (GraphicObject* hit = LayerAt(i).HitTest(probe, tolerance)) return hit;
+    }
+    return nullptr;
+}
+
+std::uint32_t Document::IssueId(std::uint32_t requestedId) {
+    if (requestedId == 0) {
+        // Ids are never reused; a counter at its end keeps handing out its last value rather
+        // than wrapping round to ids that exist.
+        if (lastId_ < std::numeric_limits<std::uint32_t>::max()) ++lastId_;
+        return lastId_;
+    }
+    // Keep the counter beyond every id handed out, so later objects never collide with it.
+    if (requestedId > lastId_) lastId_ = requestedId;
+    return requestedId;
+}
+
+Layer& Document::CurrentLayer() {
+    if (LayerCount() == 0) {
+        InsertAt(std::make_unique<Layer>(), this, 0, LayerCount());
+        currentLayer_ = 0;
+    }
+    if (currentLayer_ < 0) currentLayer_ = 0;
+    if (static_cast<std::size_t>(currentLayer_) >= LayerCount()) {
+        currentLayer_ = static_cast<int>(LayerCount()) - 1;
+    }
+    return LayerAt(static_cast<std::size_t>(currentLayer_));
+}
+
+Layer& Document::NewLayer(const std::string& name, const std::string& flags) {
+    if (CurrentLayer().CountObjects() != 0) {
+        InsertAt(std::make_unique<Layer>(), this, 0, LayerCount());
+        currentLayer_ = static_cast<int>(LayerCount()) - 1;
+    }
+    Layer& layer = CurrentLayer();
+    layer.SetName(name);
+    layer.SetHidden(flags.find('v') != std::string::npos);
+    return layer;
+}
+
+GraphicObject* Document::AddObject(std::unique_ptr<GraphicObject> object) {
+    Layer& layer = CurrentLayer();
+    GraphicObject* added = layer.InsertAt(std::move(object), this, 0, layer.ChildCount());
+    ClearSelection();
+    AddToSelection(added);
+    return added;
+}
+
+void Document::Reset() {
+    ClearSelection();
+    fileName_.clear();
+    currentLayer_ = -1;
+    defaults = StyleDefaults{};
+    defaults.penWidth = 1.0;
+    while (LayerCount() > 0) DeleteChild(ChildAt(LayerCount() - 1), true);
+    lastId_ = 1;
+    if (onTitleChange) onTitleChange(fileName_);
+}
+
+void Document::SetFileName(std::string fileName) {
+    fileName_ = std::move(fileName);
+    if (onTitleChange) onTitleChange(fileName_);
+}
+
+Layer* EnclosingLayer(const GraphicObject& object) {
+    for (Group* parent = object.GetParent(); parent != nullptr; parent = parent->GetParent()) {
+        if (parent->GetKind() == ObjectKind::Layer) return static_cast<Layer*>(parent);
+    }
+    return nullptr;
+}
+
+} // namespace rhomba
