@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string_view>
+
+namespace rhomba {
+
+// How the core tells the user something or asks a yes/no question: a message box in the editor,
+// stderr (and scripted answers) in rhomba-cli, a recorder in tests. Texts are Windows-1252 bytes.
+class Reporter {
+public:
+    virtual ~Reporter() = default;
+    // An information message, e.g. "Kein Object markiert!".
+    virtual void Inform(std::string_view message) = 0;
+    // A question answered with yes (true) or no (false).
+    virtual bool Ask(std::string_view question) = 0;
+};
+
+} // namespace rhomba
