@@ -1,0 +1,76 @@
+#pragma once
+
+#include "geometry/Matrix2D.h"
+#include "model/Types.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace rhomba {
+
+class Document;
+class GraphicObject;
+class Reporter;
+
+// Rounds half away from zero to the given number of decimals; values too large to carry
+// decimals come back unchanged.
+double RoundDecimals(double value, int decimals);
+
+// The output of one SVG export: the text being built and the helpers every object's ExportSvg
+// writes through. Numbers come out as printf "%g" would print them.
+class SvgWriter {
+public:
+    // The deepest indentation written; deeper levels stay at this many tabs.
+    static constexpr int kMaxIndent = 20;
+
+    SvgWriter();
+
+    std::string& Out() { return out_; }
+    const std::string& Text() const { return out_; }
+    std::string Take() { return std::move(out_); }
+
+    void Append(std::string_view text) { out_.append(text); }
+    void Append(char c) { out_.push_back(c); }
+    // depth tab characters, at most kMaxIndent.
+    void Indent(int depth);
+    // value as "%g".
+    void Number(double value);
+    // value rounded to decimals places, then as "%g".
+    void Rounded(double value, int decimals);
+    // " name=\"%g<unit>\"".
+    void Attribute(std::string_view name, double value, std::string_view unit = {});
+    // "stroke: none; " or "stroke: #rrggbb; stroke-width: W; [stroke-dasharray: d g ...; ]",
+    // the width and dash values divided by divisor and rounded to 3 decimals.
+    void StrokeStyle(bool stroked, ColorRef color, double penWidth, const DashDot& dash,
+                     int dashCount, double divisor);
+    // "fill: none; " or "fill: #rrggbb; ".
+    void FillStyle(bool filled, ColorRef color);
+    // "#rrggbb" from a COLORREF (red in the low byte).
+    void Colour(ColorRef color);
+    // Removes blanks at the end of the text.
+    void TrimTrailingBlanks();
+    // Text content with "&", "<" and ">" escaped; all other bytes as they are.
+    void Escaped(std::string_view text);
+    // The number that makes a layer or group id unique within this export.
+    std::uint32_t UniqueNumber(const GraphicObject& object);
+
+private:
+    std::string out_;
+    std::uint32_t nextUnique_ = 0;
+};
+
+// The whole drawing as one SVG document.
+std::string BuildSvgDocument(Document& document);
+
+// The name the export proposes: the document's file name with ".rhomba", ".iso" or ".pad"
+// turned into ".svg" (any other extension stays), "Grafik.svg" when there is none.
+std::string ProposeSvgFileName(const std::string& documentFileName);
+// A typed name without an extension after its last path separator gets ".svg".
+std::string CompleteSvgFileName(const std::string& typedName);
+
+// Builds the document and writes it to path; on failure reports
+// "%s konnte nicht zum Schreiben ge\xF6" "ffnet werden." and returns false.
+bool ExportSvgFile(Document& document, const std::string& path, Reporter& reporter);
+
+} // namespace rhomba
