@@ -27,6 +27,10 @@ public:
     void Describe(std::string& out) const override;
     ObjectKind GetKind() const override { return ObjectKind::Path; }
     void Transform(const Matrix2D& matrix) override;
+    // The box of all points, control points included; widened by half the pen width on request.
+    bool GetBounds(Rect2& bounds, bool withPenWidth) override;
+    // The path when any segment, closing ones included, passes within tolerance of probe.
+    GraphicObject* HitTest(Point2 probe, double tolerance) override;
 
     void SetStrokeColor(ColorRef color) override;
     ColorRef GetStrokeColor() const override;
