@@ -19,6 +19,10 @@ public:
     ObjectKind GetKind() const override { return ObjectKind::Text; }
     void SetSelected(bool selected) override;
     void Attach(Document* document, Group* parent, std::uint32_t requestedId) override;
+    // Refreshes the outline, then measures it; false for an empty text.
+    bool GetBounds(Rect2& bounds, bool withPenWidth) override;
+    // Refreshes the outline and returns this text when the outline is hit.
+    GraphicObject* HitTest(Point2 probe, double tolerance) override;
     // Maps the origin and composes the matrix's linear part into the text transform.
     void Transform(const Matrix2D& matrix) override;
 
@@ -60,6 +64,14 @@ public:
 
     PathObject& Outline() { return outline_; }
     const PathObject& Outline() const { return outline_; }
+    // Rebuilds the outline from the glyphs of the installed glyph source when the cache says it
+    // is stale (built with the glyph code, in src/text).
+    void RefreshOutline();
+    // The sum of the glyph advances, scaled like the outline (as of the last refresh).
+    double GetWidth() const { return width_; }
+    // The end of the baseline: the advance mapped through the outline matrix.
+    Point2 GetEndPoint() const { return endPoint_; }
+
     // The text the outline was last built from; empty when the outline is stale.
     const std::string& GetCache() const { return cache_; }
     void SetCache(std::string cache) { cache_ = std::move(cache); }
@@ -75,6 +87,8 @@ private:
     Matrix2D transform_;
     std::uint32_t style_ = 0;
     std::string cache_;
+    double width_ = 0;
+    Point2 endPoint_;
 };
 
 } // namespace rhomba

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/PathObject.h"
+#include "text/GlyphSource.h"
+
+#include <string>
+#include <string_view>
+
+namespace rhomba {
+
+// The longest face name a font request carries (a LOGFONT face holds 32 characters with its
+// terminating zero).
+inline constexpr std::size_t kMaxFaceNameLength = 31;
+
+// Document bytes (Windows-1252) as UTF-16, the way the system's ANSI conversion reads them.
+std::u16string Cp1252ToUtf16(std::string_view bytes);
+
+// Windows-1252 bytes as UTF-8, for the platform font lookups that want it.
+std::string Cp1252ToUtf8(std::string_view bytes);
+
+// The face a text asks for: its font name cut to kMaxFaceNameLength bytes, and its style.
+GlyphFace TextFace(const std::string& fontName, bool bold, bool italic);
+
+// Appends the glyph outlines of text (at 1000 units) to out, one glyph at a time from pen
+// position 0, stopping at the first 0 code unit; returns the final pen position.
+// Note: a character without records (a blank) adds no figure but still advances.
+double BuildGlyphOutlines(GlyphSource& source, const GlyphFace& face, std::u16string_view text,
+                          PathObject& out);
+
+} // namespace rhomba

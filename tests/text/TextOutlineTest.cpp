@@ -1,0 +1,191 @@
+#include "text/TextOutline.h"
+
+#include "model/TextObject.h"
+#include "text/GlyphRecords.h"
+#include "text/GlyphSource.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <vector>
+
+namespace rhomba {
+namespace {
+
+// Every letter is a 500 x 700 box advancing 600; a blank advances 250 without a figure; '#'
+// is missing altogether. Records every request.
+class BoxGlyphs : public GlyphSource {
+public:
+    const Glyph* GetGlyph(const GlyphFace& face, char16_t code) override {
+        requests.push_back(code);
+        faces.push_back(face);
+        if (code == u'#') return nullptr;
+        glyph_.records.clear();
+        if (code == u' ') {
+            glyph_.cellIncrementX = 250;
+            return &glyph_;
+        }
+        GlyphRecordWriter writer(glyph_.records);
+        writer.BeginPolygon(0, 0);
+        const std::vector<std::int32_t> box = {500 << 16, 0, 500 << 16, 700 << 16, 0, 700 << 16};
+        writer.Curve(glyph::kPrimLine, box);
+        writer.Finish();
+        glyph_.cellIncrementX = 600;
+        return &glyph_;
+    }
+
+    std::vector<char16_t> requests;
+    std::vector<GlyphFace> faces;
+
+private:
+    Glyph glyph_;
+};
+
+class TextOutlineTest : public testing::Test {
+protected:
+    void SetUp() override { InstallGlyphSource(&glyphs, false); }
+    void TearDown() override { InstallGlyphSource(nullptr); }
+
+    BoxGlyphs glyphs;
+};
+
+TEST_F(TextOutlineTest, SizeScalesTheThousandUnitOutlineAndBoundsFollow) {
+    TextObject text;
+    text.SetText("AB");
+    text.SetTextPosition(100, 50);
+    Rect2 box;
+    ASSERT_TRUE(text.GetBounds(box, false));
+    // Two boxes at 12/1000: 0..(600 + 500) wide, 700 high.
+    EXPECT_DOUBLE_EQ(box.left, 100);
+    EXPECT_DOUBLE_EQ(box.right, 100 + 1100 * 0.012);
+    EXPECT_DOUBLE_EQ(box.bottom, 50);
+    EXPECT_DOUBLE_EQ(box.top, 50 + 700 * 0.012);
+    EXPECT_EQ(text.Outline().NodeCount(), 8u);
+    EXPECT_DOUBLE_EQ(text.GetWidth(), 1200 / (1000 / 12.0));
+    EXPECT_DOUBLE_EQ(text.GetEndPoint().x, 100 + 1200 * 0.012);
+    EXPECT_DOUBLE_EQ(text.GetEndPoint().y, 50);
+}
+
+TEST_F(TextOutlineTest, TransformComesAfterTheSizeAndBeforeThePosition) {
+    TextObject text;
+    text.SetText("A");
+    text.SetTextSize(1000);
+    text.SetTextTransform(0, 1, -1, 0); // a quarter turn
+    text.SetTextPosition(10, 20);
+    text.RefreshOutline();
+    const PathObject& outline = text.Outline();
+    ASSERT_EQ(outline.NodeCount(), 4u);
+    EXPECT_EQ(outline.PointAt(1), (Point2{10, 520}));  // (500, 0) turned
+    EXPECT_EQ(outline.PointAt(2), (Point2{-690, 520})); // (500, 700) turned
+    EXPECT_EQ(text.GetEndPoint(), (Point2{10, 620}));
+    EXPECT_DOUBLE_EQ(text.GetWidth(), 600);
+}
+
+TEST_F(TextOutlineTest, BlanksAdvanceAndMissingGlyphsAreSkipped) {
+    TextObject text;
+    text.SetText("A #A");
+    text.SetTextSize(1000);
+    text.RefreshOutline();
+    ASSERT_EQ(text.Outline().NodeCount(), 8u);
+    EXPECT_DOUBLE_EQ(text.Outline().PointAt(4).x, 850);
+    EXPECT_DOUBLE_EQ(text.GetWidth(), 1450);
+}
+
+TEST_F(TextOutlineTest, OutlineIsRebuiltOnlyWhenAFieldReallyChanges) {
+    TextObject text;
+    text.SetText("AA");
+    text.RefreshOutline();
+    ASSERT_EQ(glyphs.requests.size(), 2u);
+
+    text.SetText("AA");
+    text.SetTextFont("Arial");
+    text.SetTextSize(12);
+    text.SetTextPosition(0, 0);
+    text.SetBold(false);
+    text.SetItalic(false);
+    text.SetTextTransform(1, 0, 0, 1);
+    Rect2 box;
+    text.GetBounds(box, false);
+    text.HitTest({0, 0}, 1);
+    EXPECT_EQ(glyphs.requests.size(), 2u);
+
+    text.SetBold(true);
+    text.RefreshOutline();
+    EXPECT_EQ(glyphs.requests.size(), 4u);
+    EXPECT_TRUE(glyphs.faces.back().bold);
+    text.Transform(Matrix2D::Translation(5, 5));
+    text.RefreshOutline();
+    EXPECT_EQ(glyphs.requests.size(), 6u);
+    EXPECT_EQ(text.Outline().NodeCount(), 8u);
+}
+
+TEST_F(TextOutlineTest, EmptyTextHasNoOutlineAndNoBounds) {
+    TextObject text;
+    Rect2 box;
+    EXPECT_FALSE(text.GetBounds(box, false));
+    EXPECT_EQ(box, Rect2{});
+
+    text.SetText("A");
+    ASSERT_TRUE(text.GetBounds(box, false));
+    text.SetText("");
+    EXPECT_FALSE(text.GetBounds(box, false));
+    EXPECT_EQ(text.Outline().NodeCount(), 0u);
+    EXPECT_EQ(text.HitTest({1, 1}, 5), nullptr);
+}
+
+TEST_F(TextOutlineTest, TextBytesReachTheSourceAsUtf16AndStopAtZero) {
+    TextObject text;
+    text.SetText(std::string("\x80\xFC\x9Fz\0q", 6));
+    text.SetTextFont("Some Face With A Name Longer Than Thirty-One Bytes");
+    text.SetItalic(true);
+    text.RefreshOutline();
+    const std::vector<char16_t> expected = {0x20AC, 0x00FC, 0x0178, u'z'};
+    EXPECT_EQ(glyphs.requests, expected);
+    EXPECT_EQ(glyphs.faces.back().name.size(), kMaxFaceNameLength);
+    EXPECT_TRUE(glyphs.faces.back().italic);
+    EXPECT_EQ(Cp1252ToUtf8("\xE4\x80"), "\xC3\xA4\xE2\x82\xAC");
+}
+
+TEST_F(TextOutlineTest, HitTestAnswersWithTheText) {
+    TextObject text;
+    text.SetText("A");
+    text.SetTextSize(100);
+    text.SetTextPosition(10, 10);
+    // The box's left edge runs from (10, 10) to (10, 80).
+    EXPECT_EQ(text.HitTest({10.5, 40}, 1), &text);
+    EXPECT_EQ(text.HitTest({-40, 40}, 1), nullptr);
+}
+
+TEST_F(TextOutlineTest, WithoutASourceTheOutlineWaitsForOne) {
+    InstallGlyphSource(nullptr);
+    TextObject text;
+    text.SetText("A");
+    Rect2 box;
+    EXPECT_FALSE(text.GetBounds(box, false));
+    EXPECT_EQ(text.Outline().NodeCount(), 0u);
+
+    InstallGlyphSource(&glyphs, false);
+    EXPECT_TRUE(text.GetBounds(box, false));
+    EXPECT_EQ(text.Outline().NodeCount(), 4u);
+}
+
+TEST_F(TextOutlineTest, CacheAsksThePlatformOncePerFaceStyleAndCharacter) {
+    InstallGlyphSource(&glyphs, true);
+    TextObject first;
+    first.SetText("ABA\xE4");
+    first.RefreshOutline();
+    TextObject second;
+    second.SetText("BA\xE4 #");
+    second.RefreshOutline();
+    second.RefreshOutline();
+    EXPECT_EQ(glyphs.requests.size(), 5u); // A, B, ae, blank, #
+    EXPECT_EQ(second.Outline().NodeCount(), 12u);
+    EXPECT_DOUBLE_EQ(second.GetWidth(), 2050 * 0.012);
+
+    second.SetBold(true);
+    second.RefreshOutline();
+    EXPECT_EQ(glyphs.requests.size(), 10u);
+}
+
+} // namespace
+} // namespace rhomba
