@@ -1,5 +1,6 @@
 #pragma once
 
+#include "format/Rounding.h"
 #include "geometry/Matrix2D.h"
 #include "model/Types.h"
 
@@ -12,10 +13,6 @@ namespace rhomba {
 class Document;
 class GraphicObject;
 class Reporter;
-
-// Rounds half away from zero to the given number of decimals; values too large to carry
-// decimals come back unchanged.
-double RoundDecimals(double value, int decimals);
 
 // The output of one SVG export: the text being built and the helpers every object's ExportSvg
 // writes through. Numbers come out as printf "%g" would print them.

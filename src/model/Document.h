@@ -48,6 +48,8 @@ public:
     Document();
 
     ObjectKind GetKind() const override { return ObjectKind::Document; }
+    // The whole file: header, every layer with its children, end line.
+    void SaveNative(NativeWriter& out, bool reset) override;
     // Starts from the empty box, then measures the layers like a group.
     bool GetBounds(Rect2& bounds, bool withPenWidth) override;
     // Divides the tolerance by the zoom, then asks the layers from the first to the last.

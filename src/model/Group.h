@@ -19,6 +19,12 @@ public:
 
     void Describe(std::string& out) const override;
     void DrawEdit(Device& device, const Matrix2D& view, unsigned flags) override;
+    // Every child in order, hidden ones included.
+    void Render(Device& device, const Matrix2D& view) override;
+    // Written only when it holds something; children in order between Group and GroupEnd.
+    void SaveNative(NativeWriter& out, bool reset) override;
+    // Each layer or group child inside its own <g> wrapper, other children as they are.
+    void ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) override;
     void SetSelected(bool selected) override;
     int IndexOf(const GraphicObject* child) const override;
     int CountObjects() const override;

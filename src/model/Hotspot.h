@@ -11,7 +11,13 @@ public:
     static constexpr char kDefaultMode = 'n';
 
     void Describe(std::string& out) const override;
+    // Names an unnamed hotspot "H_<hex>" first; the name stays.
+    void SaveNative(NativeWriter& out, bool reset) override;
+    // Hotspots have no SVG form.
+    void ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) override;
     ObjectKind GetKind() const override { return ObjectKind::Hotspot; }
+    // A one-pixel rectangle, blue when selected, light red otherwise.
+    void DrawEdit(Device& device, const Matrix2D& view, unsigned flags) override;
     // Copies the rectangle; the pen width does not apply.
     bool GetBounds(Rect2& bounds, bool withPenWidth) override;
     // Near one of the four edges, tested top, right, bottom, left; the inside is no hit.

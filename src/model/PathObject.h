@@ -25,7 +25,13 @@ public:
     static constexpr double kDefaultPenWidth = 0.25;
 
     void Describe(std::string& out) const override;
+    void SaveNative(NativeWriter& out, bool reset) override;
+    void ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) override;
     ObjectKind GetKind() const override { return ObjectKind::Path; }
+    // Screen drawing: fill, stroke at the zoom's width, selection overdraw, node handles.
+    void DrawEdit(Device& device, const Matrix2D& view, unsigned flags) override;
+    // Device drawing in twentieths of a point through the shared pen and brush cache.
+    void Render(Device& device, const Matrix2D& view) override;
     void Transform(const Matrix2D& matrix) override;
     // The box of all points, control points included; widened by half the pen width on request.
     bool GetBounds(Rect2& bounds, bool withPenWidth) override;
@@ -50,6 +56,8 @@ public:
 
     bool AppendFrom(const GraphicObject& other) override;
     std::unique_ptr<GraphicObject> SplitOff() override;
+    void WrapCylinder(CylinderWrapParams& params) override;
+    void RotateIsoPlane(PlaneRotationParams& params) override;
 
     std::size_t NodeCount() const { return points_.size(); }
     const std::vector<Point2>& Points() const { return points_; }

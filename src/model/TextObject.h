@@ -16,6 +16,7 @@ public:
     TextObject();
 
     void Describe(std::string& out) const override;
+    void SaveNative(NativeWriter& out, bool reset) override;
     ObjectKind GetKind() const override { return ObjectKind::Text; }
     void SetSelected(bool selected) override;
     void Attach(Document* document, Group* parent, std::uint32_t requestedId) override;

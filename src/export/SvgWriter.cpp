@@ -1,0 +1,256 @@
+#include "export/SvgWriter.h"
+
+#include "geometry/NumberText.h"
+#include "model/Document.h"
+#include "model/Hotspot.h"
+#include "model/PathObject.h"
+#include "model/Reporter.h"
+
+#include <cctype>
+#include <cstdio>
+#include <vector>
+
+namespace rhomba {
+
+SvgWriter::SvgWriter() { out_.reserve(100000); }
+
+void SvgWriter::Indent(int depth) {
+    if (depth < 0) depth = 0;
+    if (depth > kMaxIndent) depth = kMaxIndent;
+    out_.append(static_cast<std::size_t>(depth), '\t');
+}
+
+void SvgWriter::Number(double value) { AppendG(out_, value); }
+
+void SvgWriter::Rounded(double value, int decimals) {
+    AppendG(out_, RoundDecimals(value, decimals));
+}
+
+void SvgWriter::Attribute(std::string_view name, double value, std::string_view unit) {
+    out_.push_back(' ');
+    out_.append(name);
+    out_.append("=\"");
+    AppendG(out_, value);
+    out_.append(unit);
+    out_.push_back('"');
+}
+
+void SvgWriter::Colour(ColorRef color) {
+    const unsigned rgb = ((color & 0xFF) << 16) | (color & 0xFF00) | ((color >> 16) & 0xFF);
+    char text[16];
+    const int n = std::snprintf(text, sizeof text, "#%06x", rgb);
+    out_.append(text, static_cast<std::size_t>(n));
+}
+
+void SvgWriter::StrokeStyle(bool stroked, ColorRef color, double penWidth, const DashDot& dash,
+                            int dashCount, double divisor) {
+    out_.append("stroke: ");
+    if (!stroked) {
+        out_.append("none; ");
+        return;
+    }
+    Colour(color);
+    out_.append("; stroke-width: ");
+    Rounded(penWidth / divisor, 3);
+    out_.append("; ");
+    if (dashCount != 0) {
+        if (dashCount > 8) dashCount = 8;
+        out_.append("stroke-dasharray:");
+        for (std::size_t i = 0; i < static_cast<std::size_t>(dashCount); i += 2) {
+            out_.push_back(' ');
+            Rounded(dash[i] / divisor, 3);
+            out_.push_back(' ');
+            Rounded(dash[i + 1] / divisor, 3);
+        }
+        out_.append("; ");
+    }
+}
+
+void SvgWriter::FillStyle(bool filled, ColorRef color) {
+    out_.append("fill: ");
+    if (!filled) {
+        out_.append("none; ");
+        return;
+    }
+    Colour(color);
+    out_.append("; ");
+}
+
+void SvgWriter::TrimTrailingBlanks() {
+    while (!out_.empty() && out_.back() == ' ') out_.pop_back();
+}
+
+void SvgWriter::Escaped(std::string_view text) {
+    for (char c : text) {
+        switch (c) {
+        case '&': out_.append("&amp;"); break;
+        case '<': out_.append("&lt;"); break;
+        case '>': out_.append("&gt;"); break;
+        default: out_.push_back(c); break;
+        }
+    }
+}
+
+std::uint32_t SvgWriter::UniqueNumber(const GraphicObject&) { return ++nextUnique_; }
+
+void PathObject::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
+    const std::size_t count = NodeCount();
+    if (count < 2) return;
+    out.Indent(depth);
+    out.Append("<path style=\"");
+    out.StrokeStyle(HasStroke(), GetStrokeColor(), GetPenWidth(), dash_, GetDashCount(), 1.0);
+    out.FillStyle(HasFill(), GetFillColor());
+    out.TrimTrailingBlanks();
+    out.Append("\" d=\"");
+    enum class Segment { None, Move, Line, Curve } kind = Segment::None;
+    for (std::size_t i = 0; i < count; ++i) {
+        const NodeType type = types_[i];
+        const Point2 p = matrix.TransformPoint(points_[i]);
+        if (node::IsMoveTo(type)) {
+            if (i != 0) out.Append((types_[i - 1] & node::kCloseFigure) ? " z " : " ");
+            out.Append("M ");
+            out.Rounded(p.x, 4);
+            out.Append(' ');
+            out.Rounded(p.y, 4);
+            kind = Segment::Move;
+        } else if (node::IsLineTo(type)) {
+            if (kind != Segment::Line) out.Append(" L");
+            out.Append(' ');
+            out.Rounded(p.x, 4);
+            out.Append(' ');
+            out.Rounded(p.y, 4);
+            kind = Segment::Line;
+        } else if (node::IsBezier(type)) {
+            if (i + 2 >= count) break; // a cut-off run has no end point
+            if (kind != Segment::Curve) out.Append(" C");
+            for (std::size_t k = 0; k < 3; ++k) {
+                const Point2 q = k == 0 ? p : matrix.TransformPoint(points_[i + k]);
+                out.Append(' ');
+                out.Number(q.x);
+                out.Append(' ');
+                out.Number(q.y);
+            }
+            i += 2;
+            kind = Segment::Curve;
+        }
+    }
+    if (types_[count - 1] & node::kCloseFigure) out.Append(" z");
+    out.Append("\"/>\r\n");
+}
+
+void Hotspot::ExportSvg(SvgWriter&, const Matrix2D&, int) {}
+
+void Group::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
+    // Nested groups are walked with a work list so that no depth of nesting can exhaust the
+    // stack; each frame remembers the depth its children are written at.
+    struct Frame {
+        Group* group;
+        std::size_t next;
+        int depth;
+    };
+    std::vector<Frame> stack{{this, 0, depth}};
+    while (!stack.empty()) {
+        Frame& frame = stack.back();
+        if (frame.next >= frame.group->ChildCount()) {
+            const int childDepth = frame.depth;
+            stack.pop_back();
+            if (!stack.empty()) {
+                out.Indent(childDepth - 1);
+                out.Append("</g>\r\n");
+            }
+            continue;
+        }
+        GraphicObject* child = frame.group->ChildAt(frame.next++);
+        if (child == nullptr) continue;
+        const ObjectKind kind = child->GetKind();
+        if (kind == ObjectKind::Layer || kind == ObjectKind::Group) {
+            const int at = frame.depth;
+            char text[32];
+            std::snprintf(text, sizeof text, "%s_%x", kind == ObjectKind::Layer ? "Layer" : "Group",
+                          static_cast<unsigned>(out.UniqueNumber(*child)));
+            out.Indent(at);
+            out.Append("<g id=\"");
+            out.Append(text);
+            out.Append("\">\r\n");
+            stack.push_back({static_cast<Group*>(child), 0, at + 1});
+        } else {
+            child->ExportSvg(out, matrix, frame.depth);
+        }
+    }
+}
+
+std::string BuildSvgDocument(Document& document) {
+    Rect2 box;
+    // An empty drawing has no box; it gets a zero-sized picture rather than the negative size
+    // that the empty-box sentinel would give, which renderers refuse.
+    if (!document.GetBounds(box, false) || box.left > box.right || box.bottom > box.top) {
+        box = {0, 0, 0, 0};
+    }
+    const Matrix2D matrix{1, 0, 0, -1, -box.left, box.top};
+    SvgWriter out;
+    out.Append("<?xml version=\"1.0\"?>\r\n");
+    out.Append("<!DOCTYPE svg>\r\n");
+    out.Append("<svg xmlns=\"http://www.w3.org/2000/svg\"");
+    out.Attribute("width", (box.right - box.left) * 1.34);
+    out.Attribute("height", (box.top - box.bottom) * 1.34);
+    out.Append(">\r\n");
+    out.Append("<desc>SVG-Datei von Rhomba. Wenn SVG halb so kompliziert waere, waere es doppel so "
+               "verbreitet.</desc>\r\n");
+    out.Append("<g transform=\"scale(1.333333)\">");
+    out.Append("\t<!-- Pixel zu Punkt skalieren, der Wert 1.333333 (96/72) kann bei Bedarf "
+               "angepasst werden -->\r\n");
+    document.Group::ExportSvg(out, matrix, 1);
+    out.Append("</g>\r\n");
+    out.Append("</svg>");
+    return out.Take();
+}
+
+namespace {
+
+bool EqualsNoCase(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (std::tolower(static_cast<unsigned char>(a[i])) !=
+            std::tolower(static_cast<unsigned char>(b[i]))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+std::string ProposeSvgFileName(const std::string& documentFileName) {
+    if (documentFileName.empty()) return "Grafik.svg";
+    std::string name = documentFileName;
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string::npos) return name;
+    const std::string_view extension = std::string_view(name).substr(dot);
+    if (EqualsNoCase(extension, ".rhomba") || EqualsNoCase(extension, ".iso") ||
+        EqualsNoCase(extension, ".pad")) {
+        name.resize(dot + 1);
+        name += "svg";
+    }
+    return name;
+}
+
+std::string CompleteSvgFileName(const std::string& typedName) {
+    const std::size_t slash = typedName.find_last_of("\\/");
+    const std::size_t start = slash == std::string::npos ? 0 : slash + 1;
+    if (typedName.find('.', start) == std::string::npos) return typedName + ".svg";
+    return typedName;
+}
+
+bool ExportSvgFile(Document& document, const std::string& path, Reporter& reporter) {
+    std::FILE* file = std::fopen(path.c_str(), "wb");
+    if (file == nullptr) {
+        reporter.Inform(path + " konnte nicht zum Schreiben ge\xF6" "ffnet werden.");
+        return false;
+    }
+    const std::string text = BuildSvgDocument(document);
+    std::fwrite(text.data(), 1, text.size(), file);
+    std::fclose(file);
+    return true;
+}
+
+} // namespace rhomba

@@ -1,0 +1,423 @@
+#include "format/NativeReader.h"
+
+#include "format/NativeWriter.h"
+#include "geometry/NumberText.h"
+#include "model/Document.h"
+#include "model/Hotspot.h"
+#include "model/PathObject.h"
+#include "model/Reporter.h"
+#include "model/TextObject.h"
+
+#include <charconv>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <unordered_map>
+#include <vector>
+
+namespace rhomba {
+
+namespace {
+
+bool IsSeparator(char c) { return c == ' ' || c == '\t'; }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// A cursor over the fields of one line.
+struct Fields {
+    const char* p;
+    const char* end;
+
+    void SkipBlanks() {
+        while (p < end && IsSeparator(*p)) ++p;
+    }
+    void SkipWord() {
+        while (p < end && !IsSeparator(*p)) ++p;
+    }
+    std::string_view Word() {
+        SkipBlanks();
+        const char* start = p;
+        SkipWord();
+        return {start, static_cast<std::size_t>(p - start)};
+    }
+    // The rest of the line after the single separator that ends the previous field.
+    std::string_view Rest() {
+        if (p < end && IsSeparator(*p)) ++p;
+        return {p, static_cast<std::size_t>(end - p)};
+    }
+    // A decimal number as strtod reads it; anything else reads as 0. The rest of the word is
+    // skipped either way, so one bad field does not shift the others.
+    double Number() {
+        SkipBlanks();
+        const char* start = p;
+        if (start < end && *start == '+') ++start;
+        const char* q = start;
+        if (q < end && *q == '-') ++q;
+        double value = 0;
+        if (q < end && (IsDigit(*q) || (*q == '.' && q + 1 < end && IsDigit(q[1])))) {
+            const auto result = std::from_chars(start, end, value);
+            if (result.ec == std::errc::result_out_of_range) {
+                // Out of range: strtod's answer, +-HUGE_VAL or 0.
+                std::size_t used = 0;
+                value = ReadLeadingNumber(
+                    std::string_view(start, static_cast<std::size_t>(result.ptr - start)), used);
+            } else if (result.ec != std::errc{}) {
+                value = 0;
+            }
+            p = result.ptr;
+        }
+        SkipWord();
+        return value;
+    }
+    // Hexadecimal RRGGBB as strtoul reads it, turned into a COLORREF.
+    ColorRef Colour() {
+        SkipBlanks();
+        std::uint32_t rgb = 0;
+        for (; p < end; ++p) {
+            const char c = *p;
+            unsigned digit;
+            if (c >= '0' && c <= '9') digit = static_cast<unsigned>(c - '0');
+            else if (c >= 'a' && c <= 'f') digit = static_cast<unsigned>(c - 'a' + 10);
+            else if (c >= 'A' && c <= 'F') digit = static_cast<unsigned>(c - 'A' + 10);
+            else break;
+            rgb = (rgb << 4) | digit;
+        }
+        SkipWord();
+        rgb &= kColourMask;
+        return ((rgb & 0xFF) << 16) | (rgb & 0xFF00) | ((rgb >> 16) & 0xFF);
+    }
+};
+
+class Parser {
+public:
+    Parser(Document& document, bool paste) : document_(document), paste_(paste) {}
+
+    void Run(std::string_view text);
+
+private:
+    Group& Container() {
+        return open_.empty() ? static_cast<Group&>(document_.CurrentLayer()) : *open_.back();
+    }
+    GraphicObject* Insert(std::unique_ptr<GraphicObject> object);
+    void EndPath(char letter);
+    void PlaceIds(Fields& f);
+    void RegisterAll();
+    // Returns false at RhombaEnd.
+    bool Line(const char* begin, const char* end);
+
+    Document& document_;
+    bool paste_;
+    NativeStyle style_;
+    std::vector<Group*> open_;
+    int flattened_ = 0; // groups opened beyond the depth limit and not yet closed
+    std::unique_ptr<PathObject> path_;
+    std::vector<GraphicObject*> pasted_;
+    std::string pathName_;
+    std::string textName_;
+
+    struct Placement {
+        std::uint32_t parent = 0;
+        std::uint32_t index = 0;
+        std::uint32_t id = 0;
+        bool pending = false;
+    } placement_;
+    // Ids of the drawing, built on the first placement line only; every insertion after that
+    // keeps it current, so a file full of placement lines costs no tree walks.
+    std::unordered_map<std::uint32_t, GraphicObject*> ids_;
+    bool idsBuilt_ = false;
+};
+
+void Parser::RegisterAll() {
+    idsBuilt_ = true;
+    std::vector<GraphicObject*> work{&document_};
+    while (!work.empty()) {
+        GraphicObject* object = work.back();
+        work.pop_back();
+        ids_.emplace(object->GetId(), object);
+        if (IsContainer(*object)) {
+            const Group& group = static_cast<const Group&>(*object);
+            for (std::size_t i = 0; i < group.ChildCount(); ++i) {
+                if (GraphicObject* child = group.ChildAt(i)) work.push_back(child);
+            }
+        }
+    }
+}
+
+GraphicObject* Parser::Insert(std::unique_ptr<GraphicObject> object) {
+    Group* container = &Container();
+    std::size_t index = container->ChildCount();
+    std::uint32_t id = 0;
+    if (placement_.pending) {
+        placement_.pending = false;
+        // The placement holds only for an id nobody has yet and a parent that is a container.
+        if (placement_.id == 0 || ids_.find(placement_.id) == ids_.end()) {
+            const auto parent = ids_.find(placement_.parent);
+            if (parent != ids_.end() && IsContainer(*parent->second) &&
+                parent->second->GetKind() != ObjectKind::Document) {
+                container = static_cast<Group*>(parent->second);
+                index = placement_.index;
+                id = placement_.id;
+            }
+        }
+    }
+    GraphicObject* inserted = container->InsertAt(std::move(object), &document_, id, index);
+    if (idsBuilt_ && inserted != nullptr) ids_.emplace(inserted->GetId(), inserted);
+    if (paste_ && open_.empty() && inserted != nullptr) pasted_.push_back(inserted);
+    return inserted;
+}
+
+void Parser::PlaceIds(Fields& f) {
+    if (!idsBuilt_) RegisterAll();
+    // Layers made since the ids were collected are the only containers not yet known.
+    Layer& layer = document_.CurrentLayer();
+    ids_.emplace(layer.GetId(), &layer);
+    const auto read = [&f]() {
+        const double v = f.Number();
+        return v >= 0 && v <= 4294967295.0 ? static_cast<std::uint32_t>(v) : 0u;
+    };
+    placement_.parent = read();
+    placement_.index = read();
+    placement_.id = read();
+    placement_.pending = true;
+}
+
+void Parser::EndPath(char letter) {
+    if (!path_) return;
+    std::unique_ptr<PathObject> path = std::move(path_);
+    if (path->NodeCount() < 2) return;
+    const bool fill = letter == 'B' || letter == 'F';
+    const bool stroke = letter == 'B' || letter == 'S';
+    path->SetFill(fill);
+    path->SetFillColor(style_.fillColor);
+    path->SetStroke(stroke);
+    path->SetStrokeColor(style_.strokeColor);
+    path->SetPenWidth(style_.penWidth);
+    path->SetDashDot(style_.dash);
+    path->SetName(std::move(pathName_));
+    pathName_.clear();
+    Insert(std::move(path));
+}
+
+bool Parser::Line(const char* begin, const char* end) {
+    Fields f{begin, end};
+    const std::string_view keyword = f.Word();
+    if (keyword.empty()) return true;
+
+    switch (keyword[0]) {
+    case 'M':
+    case 'L':
+        if (keyword.size() == 1) {
+            if (keyword[0] == 'M' && !path_) path_ = std::make_unique<PathObject>();
+            if (!path_) return true;
+            const double x = f.Number();
+            const double y = f.Number();
+            path_->AddNode({x, y}, keyword[0] == 'M' ? node::kMoveTo : node::kLineTo);
+            return true;
+        }
+        if (keyword == "Layer") {
+            const std::string_view flags = f.Word();
+            const std::string_view name = f.Rest();
+            // A new layer closes whatever groups were left open in the one before.
+            open_.clear();
+            flattened_ = 0;
+            Layer& layer = document_.NewLayer(std::string(name), std::string(flags));
+            if (idsBuilt_) ids_.emplace(layer.GetId(), &layer);
+        }
+        return true;
+    case 'C':
+        if (keyword.size() == 1) {
+            if (!path_) return true;
+            Point2 p[3];
+            for (Point2& q : p) {
+                q.x = f.Number();
+                q.y = f.Number();
+            }
+            for (const Point2& q : p) path_->AddNode(q, node::kBezierTo);
+        } else if (keyword == "ClosePath") {
+            if (path_ && path_->NodeCount() > 0) {
+                const std::size_t last = path_->NodeCount() - 1;
+                path_->SetType(last, static_cast<NodeType>(path_->TypeAt(last) | node::kCloseFigure));
+            }
+        }
+        return true;
+    case 'B':
+    case 'F':
+    case 'S':
+    case 'N':
+        if (keyword.size() == 1) {
+            EndPath(keyword[0]);
+        } else if (keyword == "StrokeColor") {
+            style_.strokeColor = f.Colour();
+        } else if (keyword == "FillColor") {
+            style_.fillColor = f.Colour();
+        }
+        return true;
+    case 'P':
+        if (keyword == "PenWidth") {
+            style_.penWidth = f.Number();
+        } else if (keyword == "PenDash") {
+            DashDot dash{};
+            for (std::size_t i = 0; i < dash.size(); ++i) {
+                f.SkipBlanks();
+                if (f.p >= f.end) break;
+                const double v = f.Number();
+                dash[i] = static_cast<std::uint8_t>(v <= 0 || v != v ? 0 : v >= 255 ? 255 : v);
+            }
+            style_.dash = dash;
+        } else if (keyword == "PathObject") {
+            pathName_ = std::string(f.Rest());
+        }
+        return true;
+    case 'T':
+        if (keyword == "Text") {
+            const std::string_view letter = f.Word();
+            const double x = f.Number();
+            const double y = f.Number();
+            const std::string_view content = f.Rest();
+            const char paint = letter.empty() ? 'N' : letter[0];
+            auto text = std::make_unique<TextObject>();
+            text->SetTextFont(style_.font);
+            text->SetBold(style_.bold);
+            text->SetItalic(style_.italic);
+            text->SetTextSize(style_.textSize);
+            text->SetTextTransform(style_.transform[0], style_.transform[1], style_.transform[2],
+                                   style_.transform[3]);
+            text->SetFill(paint == 'B' || paint == 'F');
+            text->SetFillColor(style_.fillColor);
+            text->SetStroke(paint == 'B' || paint == 'S');
+            text->SetStrokeColor(style_.strokeColor);
+            text->SetPenWidth(style_.penWidth);
+            text->SetDashDot(style_.dash);
+            text->SetTextPosition(x, y);
+            text->SetText(std::string(content));
+            text->SetName(std::move(textName_));
+            textName_.clear();
+            Insert(std::move(text));
+        } else if (keyword == "TextObject") {
+            textName_ = std::string(f.Rest());
+        } else if (keyword == "TextFont") {
+            const std::string_view flags = f.Word();
+            style_.bold = flags.find('b') != std::string_view::npos;
+            style_.italic = flags.find('i') != std::string_view::npos;
+            style_.font = std::string(f.Rest());
+        } else if (keyword == "TextSize") {
+            style_.textSize = f.Number();
+        } else if (keyword == "TextTransform") {
+            for (double& v : style_.transform) v = f.Number();
+        }
+        return true;
+    case 'G':
+        if (keyword == "Group") {
+            if (static_cast<int>(open_.size()) >= kMaxGroupDepth) {
+                ++flattened_;
+                return true;
+            }
+            auto group = std::make_unique<Group>();
+            group->SetName(std::string(f.Rest()));
+            GraphicObject* inserted = Insert(std::move(group));
+            if (inserted != nullptr) open_.push_back(static_cast<Group*>(inserted));
+        } else if (keyword == "GroupEnd") {
+            // An end without an open group is ignored.
+            if (flattened_ > 0) {
+                --flattened_;
+            } else if (!open_.empty()) {
+                open_.pop_back();
+            }
+        }
+        return true;
+    case 'H':
+        if (keyword == "Hotspot") {
+            const std::string_view mode = f.Word();
+            const std::string_view name = f.Word();
+            double v[4];
+            for (double& value : v) value = f.Number();
+            auto hotspot = std::make_unique<Hotspot>();
+            hotspot->SetMode(mode.empty() ? Hotspot::kDefaultMode : mode[0]);
+            hotspot->SetName(std::string(name));
+            hotspot->SetRect(v[0], v[1], v[2], v[3]);
+            Insert(std::move(hotspot));
+        }
+        return true;
+    case 'R':
+        return keyword != "RhombaEnd";
+    case '%':
+        if (keyword == "%IDs") PlaceIds(f);
+        return true;
+    default:
+        return true;
+    }
+}
+
+void Parser::Run(std::string_view text) {
+    const char* p = text.data();
+    const char* const end = p + text.size();
+    while (p < end) {
+        const char* newline = static_cast<const char*>(std::memchr(p, '\n', static_cast<std::size_t>(end - p)));
+        const char* lineEnd = newline != nullptr ? newline : end;
+        const char* contentEnd = lineEnd;
+        while (contentEnd > p && contentEnd[-1] == '\r') --contentEnd;
+        // The current layer is fetched before every item: it makes the first layer of an empty
+        // drawing.
+        document_.CurrentLayer();
+        if (!Line(p, contentEnd)) break;
+        p = newline != nullptr ? newline + 1 : end;
+    }
+    // Selected once complete, so that a pasted group's flag reaches all of its children.
+    for (GraphicObject* object : pasted_) document_.AddToSelection(object);
+}
+
+} // namespace
+
+void ParseNative(Document& document, std::string_view text, bool paste) {
+    Parser parser(document, paste);
+    parser.Run(text);
+}
+
+bool StartsWithProductWord(std::string_view text) {
+    if (text.substr(0, 3) == "\xEF\xBB\xBF") text.remove_prefix(3);
+    if (text.substr(0, kProductWord.size()) != kProductWord) return false;
+    if (text.size() == kProductWord.size()) return true;
+    const char next = text[kProductWord.size()];
+    return next == ' ' || next == '\t' || next == '\r' || next == '\n';
+}
+
+bool LoadNativeFile(Document& document, const std::string& path, Reporter& reporter) {
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (file == nullptr) {
+        reporter.Inform("Die Datei '" + path + "' konnte nicht zum Lesen ge\xF6" "ffnet werden.");
+        return false;
+    }
+    long long length = -1;
+    if (std::fseek(file, 0, SEEK_END) == 0) length = std::ftell(file);
+    std::fseek(file, 0, SEEK_SET);
+    if (length < 21) {
+        std::fclose(file);
+        reporter.Inform("'" + path + "' ist keine Rhomba-Datei.");
+        return false;
+    }
+    document.Reset();
+
+    std::string text;
+    try {
+        text.resize(static_cast<std::size_t>(length));
+    } catch (const std::exception&) {
+        std::fclose(file);
+        reporter.Inform("Nicht gen\xFCgend Speicher (" + std::to_string(length) + " Bytes).");
+        return false;
+    }
+    text.resize(std::fread(text.data(), 1, text.size(), file));
+    std::fclose(file);
+    // The text ends at its first 0 byte, as it always has.
+    const std::size_t zero = text.find('\0');
+    if (zero != std::string::npos) text.resize(zero);
+
+    if (!StartsWithProductWord(text)) {
+        reporter.Inform("Es ist keine Rhomba-Datei.\r\n\r\nAnfang: " + text.substr(0, 100) + " ...");
+        return false;
+    }
+    ParseNative(document, text, false);
+    document.SetFileName(path);
+    return true;
+}
+
+} // namespace rhomba

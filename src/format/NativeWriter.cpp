@@ -1,0 +1,295 @@
+#include "format/NativeWriter.h"
+
+#include "format/Rounding.h"
+#include "geometry/NumberText.h"
+#include "model/Document.h"
+#include "model/Hotspot.h"
+#include "model/PathObject.h"
+#include "model/TextObject.h"
+
+#include <cmath>
+#include <cstdio>
+#include <vector>
+
+namespace rhomba {
+
+double RoundDecimals(double value, int decimals) {
+    static constexpr double kScale[] = {1, 10, 100, 1000, 10000, 100000, 1000000};
+    if (decimals < 0) decimals = 0;
+    if (decimals > 6) decimals = 6;
+    // Beyond 2^52 / 10^6 a double has no decimals left to round, and scaling could overflow.
+    if (!(std::fabs(value) < 4.0e9)) return value;
+    return std::round(value * kScale[decimals]) / kScale[decimals];
+}
+
+void AppendRrggbb(std::string& out, ColorRef color, bool padded) {
+    const unsigned rgb = ((color & 0xFF) << 16) | (color & 0xFF00) | ((color >> 16) & 0xFF);
+    char text[16];
+    const int n = std::snprintf(text, sizeof text, padded ? "%06X" : "%X", rgb);
+    out.append(text, static_cast<std::size_t>(n));
+}
+
+void NativeWriter::Number(double value) { AppendG(out_, value); }
+
+void NativeWriter::Rounded(double value, int decimals) {
+    AppendG(out_, RoundDecimals(value, decimals));
+}
+
+void NativeWriter::Header() {
+    out_.append(kProductWord);
+    out_.push_back(' ');
+    out_.append(kVersionText);
+    out_.append("\r\n");
+}
+
+void NativeWriter::Trailer() { out_.append("\r\nRhombaEnd\r\n"); }
+
+void NativeWriter::StrokeLines(ColorRef color, double penWidth, const DashDot& dash) {
+    color &= kColourMask;
+    if (color != style_.strokeColor) {
+        out_.append("StrokeColor ");
+        AppendRrggbb(out_, color, true);
+        out_.append("\r\n");
+        style_.strokeColor = color;
+    }
+    // Note: compared raw but written rounded to 2 decimals; an unrounded width followed by its
+    // rounded value writes the line twice.
+    if (penWidth != style_.penWidth) {
+        out_.append("PenWidth ");
+        Rounded(penWidth, 2);
+        out_.append("\r\n");
+        style_.penWidth = penWidth;
+    }
+    if (dash != style_.dash) {
+        out_.append("PenDash");
+        const int count = CountDashEntries(dash);
+        if (count == 0) out_.append(" 0");
+        char text[16];
+        for (int i = 0; i < count; i += 2) {
+            const int n = std::snprintf(text, sizeof text, " %u %u", unsigned{dash[i]},
+                                        unsigned{dash[i + 1]});
+            out_.append(text, static_cast<std::size_t>(n));
+        }
+        out_.append("\r\n");
+        style_.dash = dash;
+    }
+}
+
+void NativeWriter::FillLine(ColorRef color) {
+    color &= kColourMask;
+    if (color == style_.fillColor) return;
+    out_.append("FillColor ");
+    AppendRrggbb(out_, color, false);
+    out_.append("\r\n");
+    style_.fillColor = color;
+}
+
+namespace {
+
+char PaintLetter(bool fill, bool stroke) {
+    if (fill) return stroke ? 'B' : 'F';
+    return stroke ? 'S' : 'N';
+}
+
+void AppendPoint(NativeWriter& out, Point2 p) {
+    out.Append('\t');
+    out.Rounded(p.x, 4);
+    out.Append('\t');
+    out.Rounded(p.y, 4);
+}
+
+} // namespace
+
+void PathObject::SaveNative(NativeWriter& out, bool reset) {
+    if (reset) out.Style().Reset();
+    const std::size_t count = NodeCount();
+    if (count < 2) return;
+    std::string& text = out.Out();
+    text.reserve(text.size() + 25 * count + 64);
+    out.Newline();
+    if (!GetName().empty()) {
+        out.Append("PathObject ");
+        out.Append(GetName());
+        out.Newline();
+    }
+    if (HasStroke()) out.StrokeLines(GetStrokeColor(), GetPenWidth(), dash_);
+    if (HasFill()) out.FillLine(GetFillColor());
+
+    for (std::size_t i = 0; i < count; ++i) {
+        const NodeType type = types_[i];
+        if (node::IsMoveTo(type)) {
+            // A move cannot close anything; the writer drops a stray close bit here.
+            types_[i] = static_cast<NodeType>(type & ~node::kCloseFigure);
+            out.Append('M');
+            AppendPoint(out, points_[i]);
+            out.Newline();
+        } else if (node::IsLineTo(type)) {
+            out.Append('L');
+            AppendPoint(out, points_[i]);
+            out.Newline();
+            if (type & node::kCloseFigure) out.Append("ClosePath\r\n");
+        } else if (node::IsBezier(type)) {
+            if (i + 2 >= count) break; // a cut-off run has no end point to write
+            types_[i] = static_cast<NodeType>(type & ~node::kCloseFigure);
+            out.Append('C');
+            AppendPoint(out, points_[i]);
+            AppendPoint(out, points_[i + 1]);
+            AppendPoint(out, points_[i + 2]);
+            out.Newline();
+            if (types_[i + 2] & node::kCloseFigure) out.Append("ClosePath\r\n");
+            i += 2;
+        }
+    }
+    out.Append(PaintLetter(HasFill(), HasStroke()));
+    out.Newline();
+}
+
+void TextObject::SaveNative(NativeWriter& out, bool reset) {
+    NativeStyle& style = out.Style();
+    if (reset) style.Reset();
+    if (text_.empty()) return;
+    out.Newline();
+    if (!GetName().empty()) {
+        out.Append("TextObject ");
+        out.Append(GetName());
+        out.Newline();
+    }
+    // Fill before stroke, the other way round from paths.
+    if (HasFill()) out.FillLine(GetFillColor());
+    if (HasStroke()) {
+        DashDot dash{};
+        GetDashDot(dash);
+        out.StrokeLines(GetStrokeColor(), GetPenWidth(), dash);
+    }
+    if (font_ != style.font || IsBold() != style.bold || IsItalic() != style.italic) {
+        out.Append("TextFont ");
+        if (IsBold()) out.Append('b');
+        if (IsItalic()) out.Append('i');
+        if (!IsBold() && !IsItalic()) out.Append('n');
+        out.Append(' ');
+        out.Append(font_);
+        out.Newline();
+        style.font = font_;
+        style.bold = IsBold();
+        style.italic = IsItalic();
+    }
+    // Compared at 2 decimals, written at 1: kept so for the files already out there.
+    const double size = RoundDecimals(size_, 2);
+    if (size != style.textSize) {
+        out.Append("TextSize ");
+        out.Rounded(size_, 1);
+        out.Newline();
+        style.textSize = size;
+    }
+    const double matrix[4] = {RoundDecimals(transform_.a, 4), RoundDecimals(transform_.b, 4),
+                              RoundDecimals(transform_.c, 4), RoundDecimals(transform_.d, 4)};
+    if (matrix[0] != style.transform[0] || matrix[1] != style.transform[1] ||
+        matrix[2] != style.transform[2] || matrix[3] != style.transform[3]) {
+        out.Append("TextTransform");
+        for (int i = 0; i < 4; ++i) {
+            out.Append(' ');
+            out.Number(matrix[i]);
+            style.transform[i] = matrix[i];
+        }
+        out.Newline();
+    }
+    out.Append("Text ");
+    out.Append(PaintLetter(HasFill(), HasStroke()));
+    out.Append(' ');
+    out.Rounded(position_.x, 4);
+    out.Append(' ');
+    out.Rounded(position_.y, 4);
+    out.Append(' ');
+    for (char c : text_) out.Append(c == '\r' || c == '\n' ? ' ' : c);
+    out.Newline();
+}
+
+void Hotspot::SaveNative(NativeWriter& out, bool reset) {
+    if (reset) out.Style().Reset();
+    if (GetName().empty()) {
+        // The object's id is unique within its drawing; a loose hotspot falls back to a counter
+        // far above any id a drawing reaches.
+        static std::uint32_t looseNumber = 0xF0000000u;
+        char text[16];
+        std::snprintf(text, sizeof text, "H_%x",
+                      static_cast<unsigned>(GetId() != 0 ? GetId() : looseNumber++));
+        SetName(text);
+    }
+    const char mode = GetName() == "start" ? 'v' : mode_;
+    out.Newline();
+    out.Append("Hotspot ");
+    out.Append(mode);
+    out.Append(' ');
+    out.Append(GetName());
+    const double values[4] = {x1_, y1_, x2_, y2_};
+    for (double v : values) {
+        out.Append(' ');
+        out.Rounded(v, 4);
+    }
+    out.Newline();
+}
+
+namespace {
+
+// Writes the children of a container, descending through nested groups with a work list so
+// that no depth of nesting can exhaust the stack.
+void SaveChildren(NativeWriter& out, Group& root) {
+    struct Frame {
+        Group* group;
+        std::size_t next;
+    };
+    std::vector<Frame> stack{{&root, 0}};
+    while (!stack.empty()) {
+        Frame& frame = stack.back();
+        if (frame.next >= frame.group->ChildCount()) {
+            const bool nested = stack.size() > 1;
+            stack.pop_back();
+            if (nested) out.Append("GroupEnd\r\n");
+            continue;
+        }
+        GraphicObject* child = frame.group->ChildAt(frame.next++);
+        if (child == nullptr) continue;
+        const ObjectKind kind = child->GetKind();
+        if (IsLeafKind(kind)) {
+            child->SaveNative(out, false);
+        } else if (kind == ObjectKind::Group && child->CountObjects() != 0) {
+            out.Append("\r\nGroup ");
+            out.Append(child->GetName());
+            out.Newline();
+            stack.push_back({static_cast<Group*>(child), 0});
+        }
+    }
+}
+
+} // namespace
+
+void Group::SaveNative(NativeWriter& out, bool reset) {
+    if (reset) out.Style().Reset();
+    if (CountObjects() == 0) return;
+    out.Append("\r\nGroup ");
+    out.Append(GetName());
+    out.Newline();
+    SaveChildren(out, *this);
+    out.Append("GroupEnd\r\n");
+}
+
+void Document::SaveNative(NativeWriter& out, bool) {
+    out.Style().Reset();
+    out.Header();
+    for (std::size_t i = 0; i < LayerCount(); ++i) {
+        Layer& layer = LayerAt(i);
+        out.Append("\r\nLayer EVP ");
+        out.Append(layer.GetName());
+        out.Newline();
+        SaveChildren(out, layer);
+    }
+    out.Trailer();
+}
+
+std::string SaveNativeText(Document& document) {
+    NativeWriter writer;
+    document.SaveNative(writer, true);
+    return writer.Take();
+}
+
+} // namespace rhomba
