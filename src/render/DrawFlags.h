@@ -1,0 +1,14 @@
+#pragma once
+
+namespace rhomba {
+
+// The flags of DrawEdit.
+inline constexpr unsigned kDrawNodesOnly = 1;  // the node-handle pass alone
+inline constexpr unsigned kDrawOutline = 2;    // outline (draft) view: thin lines, no fills
+// Selected objects become thin blue outlines; with kDrawOutline every path is filled black.
+inline constexpr unsigned kDrawHighlight = 4;
+
+// Canvas pixels per point at zoom 1: five pixels per millimetre.
+inline constexpr double kScreenPixelsPerPoint = 1.763884097222222;
+
+} // namespace rhomba
