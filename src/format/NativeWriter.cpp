@@ -231,33 +231,41 @@ void Hotspot::SaveNative(NativeWriter& out, bool reset) {
 
 namespace {
 
-// Writes the children of a container, descending through nested groups with a work list so
-// that no depth of nesting can exhaust the stack.
-void SaveChildren(NativeWriter& out, Group& root) {
+// Writes a container's children, descending through nested groups with a work list so that no
+// depth of nesting can exhaust the stack. A group is written only when it holds a leaf
+// somewhere, so its Group line waits until the first leaf below it turns up.
+void SaveTree(NativeWriter& out, Group& root, bool rootIsGroup) {
     struct Frame {
         Group* group;
         std::size_t next;
+        bool written;
     };
-    std::vector<Frame> stack{{&root, 0}};
+    std::vector<Frame> stack{{&root, 0, !rootIsGroup}};
+    std::size_t unwritten = rootIsGroup ? 0 : 1; // frames below this index are written
     while (!stack.empty()) {
         Frame& frame = stack.back();
         if (frame.next >= frame.group->ChildCount()) {
-            const bool nested = stack.size() > 1;
+            const bool closeGroup = frame.written && (rootIsGroup || stack.size() > 1);
             stack.pop_back();
-            if (nested) out.Append("GroupEnd\r\n");
+            if (unwritten > stack.size()) unwritten = stack.size();
+            if (closeGroup) out.Append("GroupEnd\r\n");
             continue;
         }
         GraphicObject* child = frame.group->ChildAt(frame.next++);
         if (child == nullptr) continue;
         const ObjectKind kind = child->GetKind();
-        if (IsLeafKind(kind)) {
-            child->SaveNative(out, false);
-        } else if (kind == ObjectKind::Group && child->CountObjects() != 0) {
-            out.Append("\r\nGroup ");
-            out.Append(child->GetName());
-            out.Newline();
-            stack.push_back({static_cast<Group*>(child), 0});
+        if (kind == ObjectKind::Group) {
+            stack.push_back({static_cast<Group*>(child), 0, false});
+            continue;
         }
+        if (IsContainerKind(kind)) continue;
+        for (; unwritten < stack.size(); ++unwritten) {
+            out.Append("\r\nGroup ");
+            out.Append(stack[unwritten].group->GetName());
+            out.Newline();
+            stack[unwritten].written = true;
+        }
+        if (IsLeafKind(kind)) child->SaveNative(out, false);
     }
 }
 
@@ -265,12 +273,7 @@ void SaveChildren(NativeWriter& out, Group& root) {
 
 void Group::SaveNative(NativeWriter& out, bool reset) {
     if (reset) out.Style().Reset();
-    if (CountObjects() == 0) return;
-    out.Append("\r\nGroup ");
-    out.Append(GetName());
-    out.Newline();
-    SaveChildren(out, *this);
-    out.Append("GroupEnd\r\n");
+    SaveTree(out, *this, true);
 }
 
 void Document::SaveNative(NativeWriter& out, bool) {
@@ -281,7 +284,7 @@ void Document::SaveNative(NativeWriter& out, bool) {
         out.Append("\r\nLayer EVP ");
         out.Append(layer.GetName());
         out.Newline();
-        SaveChildren(out, layer);
+        SaveTree(out, layer, false);
     }
     out.Trailer();
 }
