@@ -18,6 +18,10 @@ public:
     void Describe(std::string& out) const override;
     void SaveNative(NativeWriter& out, bool reset) override;
     ObjectKind GetKind() const override { return ObjectKind::Text; }
+    // On the screen the outline draws, with the text's selection.
+    void DrawEdit(Device& device, const Matrix2D& view, unsigned flags) override;
+    // On devices the font draws: TextOutW at the anchor with the mixed text colour.
+    void Render(Device& device, const Matrix2D& view) override;
     void SetSelected(bool selected) override;
     void Attach(Document* document, Group* parent, std::uint32_t requestedId) override;
     // Refreshes the outline, then measures it; false for an empty text.
