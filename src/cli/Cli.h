@@ -1,0 +1,45 @@
+#pragma once
+
+#include "model/Reporter.h"
+
+#include <deque>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace rhomba {
+class Document;
+} // namespace rhomba
+
+namespace rhomba::cli {
+
+// Messages and questions on a stream (stderr in the tool). Questions are answered from a
+// script, yes once it runs out; each question is shown with its answer.
+class StreamReporter : public Reporter {
+public:
+    explicit StreamReporter(std::ostream& stream) : stream_(stream) {}
+    void Inform(std::string_view message) override;
+    bool Ask(std::string_view question) override;
+    void Script(std::deque<bool> answers) { answers_ = std::move(answers); }
+
+private:
+    std::ostream& stream_;
+    std::deque<bool> answers_;
+};
+
+// Exit codes of the tool.
+inline constexpr int kExitOk = 0;
+inline constexpr int kExitFailed = 1;
+inline constexpr int kExitUsage = 2;
+
+// The whole tool: args are the arguments after the program name.
+int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+
+// One line per object, the document first at depth 0, two blanks per level:
+// "<kind> #<id> <description>", then ' "<name>"', " hidden", " selected" where they apply.
+void WriteInfo(Document& document, std::ostream& out);
+
+// Writes SVG when path ends in ".svg" (any case), otherwise native text. Reports a failure.
+bool SaveByExtension(Document& document, const std::string& path, Reporter& reporter);
+
+} // namespace rhomba::cli
