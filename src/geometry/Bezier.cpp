@@ -69,17 +69,17 @@ BezierNearest NearestOnBezier(const CubicBezier& curve, Point2 p) {
     return result;
 }
 
-bool IsNearBezier(Point2 p, const CubicBezier& c, double tolerance) {
-    // The curve lies inside its control polygon's hull, so inside the polygon's box.
+bool IsNearBezierBox(Point2 p, const CubicBezier& c, double tolerance) {
     const double left = std::min({c.p0.x, c.p1.x, c.p2.x, c.p3.x});
     const double right = std::max({c.p0.x, c.p1.x, c.p2.x, c.p3.x});
     const double bottom = std::min({c.p0.y, c.p1.y, c.p2.y, c.p3.y});
     const double top = std::max({c.p0.y, c.p1.y, c.p2.y, c.p3.y});
-    if (p.x < left - tolerance || p.x > right + tolerance || p.y < bottom - tolerance ||
-        p.y > top + tolerance) {
-        return false;
-    }
-    return NearestOnBezier(c, p).distance <= tolerance;
+    return p.x >= left - tolerance && p.x <= right + tolerance && p.y >= bottom - tolerance &&
+           p.y <= top + tolerance;
+}
+
+bool IsNearBezier(Point2 p, const CubicBezier& c, double tolerance) {
+    return IsNearBezierBox(p, c, tolerance) && NearestOnBezier(c, p).distance <= tolerance;
 }
 
 } // namespace rhomba

@@ -39,6 +39,10 @@ struct BezierNearest {
 };
 BezierNearest NearestOnBezier(const CubicBezier& curve, Point2 p);
 
+// Is p within tolerance of the box of the curve's four points? A cheap first test: the curve
+// lies inside that box.
+bool IsNearBezierBox(Point2 p, const CubicBezier& curve, double tolerance);
+
 // Is p within tolerance of the curve? Cheap when p lies well outside the control polygon's box.
 bool IsNearBezier(Point2 p, const CubicBezier& curve, double tolerance);
 

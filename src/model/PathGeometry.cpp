@@ -75,7 +75,12 @@ double DistanceToPath(const PathObject& path, Point2 p) {
         case SegmentKind::Move: break;
         case SegmentKind::Line:
         case SegmentKind::Close: best = std::min(best, DistanceToSegment(p, s.start, s.End())); break;
-        case SegmentKind::Bezier: best = std::min(best, NearestOnBezier(s.Curve(), p).distance); break;
+        case SegmentKind::Bezier:
+            // The curve lies within its control points' box: one farther than the best so far
+            // cannot be nearer.
+            if (!IsNearBezierBox(p, s.Curve(), best)) break;
+            best = std::min(best, NearestOnBezier(s.Curve(), p).distance);
+            break;
         }
     }
     return best;

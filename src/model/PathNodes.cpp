@@ -1,0 +1,680 @@
+#include "model/PathNodes.h"
+
+#include "geometry/Bezier.h"
+#include "geometry/BezierFit.h"
+#include "geometry/SegmentProximity.h"
+#include "model/Document.h"
+#include "model/PathObject.h"
+#include "model/PathSegments.h"
+
+#include <cmath>
+#include <optional>
+
+namespace rhomba {
+
+namespace {
+
+using node::kCloseFigure;
+using node::kKindMask;
+using node::kSelected;
+
+constexpr NodeType Kind(NodeType t) { return t & kKindMask; }
+constexpr NodeType WithKind(NodeType t, NodeType kind) {
+    return static_cast<NodeType>((t & ~kKindMask) | kind);
+}
+constexpr bool Selected(NodeType t) { return (t & kSelected) != 0; }
+
+bool StartsFigure(const PathObject& path, std::size_t i) {
+    return i == 0 || node::IsMoveTo(path.TypeAt(i));
+}
+
+// The segment that ends at node index (a line node or a Bezier end point), if there is one.
+std::optional<PathSegment> SegmentEndingAt(const PathObject& path, std::size_t index) {
+    SegmentCursor cursor(path.Points(), path.Types());
+    PathSegment s;
+    while (cursor.Next(s)) {
+        if (s.kind == SegmentKind::Move || s.kind == SegmentKind::Close) continue;
+        if (s.EndIndex() == index) return s;
+        if (s.index > index) break;
+    }
+    return std::nullopt;
+}
+
+// "In Kurve" and "In Linie" mean the closing segment when given a figure's move node; they then
+// work on its last node, and only when the figure is closed.
+std::optional<std::size_t> SegmentNode(const PathObject& path, std::size_t index) {
+    if (index >= path.NodeCount()) return std::nullopt;
+    if (!StartsFigure(path, index)) return index;
+    const std::size_t last = FigureOf(path, index).last;
+    if ((path.TypeAt(last) & kCloseFigure) == 0) return std::nullopt;
+    return last;
+}
+
+// Reverses an open figure so that it traces the same outline backwards: every node takes the
+// kind of the node that followed it, the old last node becomes the move.
+void ReverseFigure(NodeRun& run) {
+    const std::size_t n = run.types.size();
+    if (n == 0) return;
+    std::vector<NodeType> kinds(n);
+    for (std::size_t m = 0; m < n; ++m) {
+        kinds[m] = m == 0 ? node::kMoveTo : Kind(run.types[n - m]);
+    }
+    PathObject::Reverse(run);
+    for (std::size_t m = 0; m < n; ++m) {
+        run.types[m] = static_cast<NodeType>((run.types[m] & ~(kKindMask | kCloseFigure)) | kinds[m]);
+    }
+}
+
+// Joins two end nodes; returns the index of the node that carries the new straight segment, the
+// index of the snapped end node when the figure was closed without one, or nothing when the nodes
+// cannot be joined.
+struct JoinResult {
+    std::size_t node;
+    bool segmentAdded;
+};
+std::optional<JoinResult> Join(PathObject& path, std::size_t a, std::size_t b) {
+    const std::size_t n = path.NodeCount();
+    if (a == b || a >= n || b >= n) return std::nullopt;
+    const std::size_t i = a < b ? a : b;
+    const std::size_t j = a < b ? b : a;
+    if (!IsOpenEndNode(path, i) || !IsOpenEndNode(path, j)) return std::nullopt;
+    const bool iStarts = StartsFigure(path, i);
+    const bool jStarts = StartsFigure(path, j);
+    const NodeType iSelection = path.TypeAt(i) & kSelected;
+
+    if (!iStarts && jStarts) {
+        if (j == i + 1) {
+            path.SetType(i, path.TypeAt(i) & ~kCloseFigure);
+            path.SetType(j, static_cast<NodeType>((path.TypeAt(j) & kSelected) + node::kLineTo));
+            return JoinResult{j, true};
+        }
+        NodeRun run = path.CutNodes(j, n - j);
+        run.types[0] = static_cast<NodeType>(iSelection + node::kLineTo);
+        path.InsertNodes(i + 1, run);
+        return JoinResult{i + 1, true};
+    }
+    if (!iStarts && !jStarts) {
+        const std::size_t first = FigureOf(path, j).first;
+        NodeRun run = path.CutNodes(first, j - first + 1);
+        ReverseFigure(run);
+        run.types[0] = static_cast<NodeType>(iSelection + node::kLineTo);
+        path.InsertNodes(i + 1, run);
+        return JoinResult{i + 1, true};
+    }
+    if (iStarts && jStarts) {
+        const std::size_t last = FigureOf(path, j).last;
+        NodeRun run = path.CutNodes(j, last - j + 1);
+        ReverseFigure(run);
+        path.InsertNodes(i, run);
+        const std::size_t joined = i + run.types.size();
+        const NodeType t = path.TypeAt(joined);
+        path.SetType(joined, static_cast<NodeType>((t & kSelected) | node::kLineTo));
+        path.SetType(joined - 1, static_cast<NodeType>(path.TypeAt(joined - 1) | (t & kSelected)));
+        return JoinResult{joined, true};
+    }
+    // i starts a figure, j ends one.
+    if (FigureOf(path, j).first == i) {
+        const Point2 p = path.PointAt(i), q = path.PointAt(j);
+        if (std::fabs(p.x - q.x) < 0.001 && std::fabs(p.y - q.y) < 0.001) {
+            path.SetPoint(j, p);
+            path.SetType(j, path.TypeAt(j) | kCloseFigure);
+            return JoinResult{j, false};
+        }
+        path.InsertNodes(j + 1, NodeRun{{p}, {node::kLineTo | kCloseFigure}});
+        return JoinResult{j + 1, true};
+    }
+    const std::size_t last = FigureOf(path, i).last;
+    const std::size_t count = last - i + 1;
+    NodeRun run = path.CutNodes(i, count);
+    run.types[0] = static_cast<NodeType>((run.types[0] & kSelected) + node::kLineTo);
+    path.InsertNodes(j - count + 1, run);
+    return JoinResult{j - count + 1, true};
+}
+
+// A point on the line through an end node's end segment other than the node itself, read from
+// the segment's first or last points.
+std::optional<Point2> EndSegmentNeighbour(const PathObject& path, std::size_t k) {
+    const Point2 p = path.PointAt(k);
+    const FigureRange figure = FigureOf(path, k);
+    if (figure.first == figure.last) return std::nullopt;
+    if (k == figure.first) {
+        const std::size_t reach = node::IsBezier(path.TypeAt(k + 1)) ? 3 : 1;
+        for (std::size_t m = k + 1; m <= figure.last && m <= k + reach; ++m) {
+            if (!(path.PointAt(m) == p)) return path.PointAt(m);
+        }
+        return std::nullopt;
+    }
+    const std::size_t reach = node::IsBezier(path.TypeAt(k)) ? 3 : 1;
+    for (std::size_t m = k; m-- > figure.first && m + reach >= k;) {
+        if (!(path.PointAt(m) == p)) return path.PointAt(m);
+    }
+    return std::nullopt;
+}
+
+double Cross(Point2 a, Point2 b) { return a.x * b.y - a.y * b.x; }
+
+} // namespace
+
+std::size_t CountSelectedNodes(const PathObject& path) {
+    std::size_t count = 0;
+    for (NodeType t : path.Types()) count += Selected(t) ? 1 : 0;
+    return count;
+}
+
+long NextSelectedNode(const PathObject& path, std::size_t from) {
+    for (std::size_t i = from; i < path.NodeCount(); ++i) {
+        if (Selected(path.TypeAt(i))) return static_cast<long>(i);
+    }
+    return -1;
+}
+
+FigureRange FigureOf(const PathObject& path, std::size_t index) {
+    FigureRange range{index, index};
+    while (!StartsFigure(path, range.first)) --range.first;
+    while (range.last + 1 < path.NodeCount() && !StartsFigure(path, range.last + 1)) ++range.last;
+    return range;
+}
+
+bool IsOpenEndNode(const PathObject& path, std::size_t index) {
+    if (index >= path.NodeCount()) return false;
+    const FigureRange figure = FigureOf(path, index);
+    if (figure.last != figure.first && (path.TypeAt(figure.last) & kCloseFigure) != 0) return false;
+    return index == figure.first || index == figure.last;
+}
+
+std::size_t CountFigures(const PathObject& path) {
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < path.NodeCount(); ++i) count += StartsFigure(path, i) ? 1 : 0;
+    return count;
+}
+
+bool SplitRule(const PathObject& path) {
+    const auto& types = path.Types();
+    const std::size_t n = types.size();
+    for (std::size_t i = 0; i < n; ++i) {
+        std::size_t end = i;
+        if (Kind(types[i]) == node::kBezierTo) {
+            end = i + 2;
+            i += 2;
+            if (end >= n) break;
+        } else if (Kind(types[i]) != node::kLineTo) {
+            continue;
+        }
+        if (!Selected(types[end])) continue;
+        if ((types[end] & kCloseFigure) != 0) return true;
+        if (end + 1 < n && !node::IsMoveTo(types[end + 1])) return true;
+    }
+    return false;
+}
+
+namespace {
+
+// The to-curve and to-line rules: exactly one selected segment end of the wanted kind, none of
+// the other kind, and no selected move whose figure's last node is unselected.
+bool SingleSelectedSegmentRule(const PathObject& path, NodeType wanted) {
+    const auto& types = path.Types();
+    const std::size_t n = types.size();
+    int found = 0;
+    for (std::size_t i = 0; i < n; ++i) {
+        std::size_t end = i;
+        const NodeType kind = Kind(types[i]);
+        if (kind == node::kBezierTo) {
+            end = i + 2;
+            i += 2;
+            if (end >= n) break;
+        }
+        if (!Selected(types[end])) continue;
+        if (kind == node::kMoveTo) {
+            if (!Selected(types[FigureOf(path, end).last])) return false;
+            continue;
+        }
+        if (kind == wanted) {
+            ++found;
+        } else if (kind == node::kLineTo || kind == node::kBezierTo) {
+            return false;
+        }
+    }
+    return found == 1;
+}
+
+} // namespace
+
+bool ToCurveRule(const PathObject& path) { return SingleSelectedSegmentRule(path, node::kLineTo); }
+bool ToLineRule(const PathObject& path) { return SingleSelectedSegmentRule(path, node::kBezierTo); }
+
+NodeMenuState NodeMenuRules(const GraphicObject* first) {
+    const PathObject* path = first != nullptr && first->GetKind() == ObjectKind::Path
+                                 ? static_cast<const PathObject*>(first)
+                                 : nullptr;
+    NodeMenuState state{};
+    std::size_t k = 0;
+    long a = -1, b = -1;
+    if (path != nullptr) {
+        k = CountSelectedNodes(*path);
+        a = NextSelectedNode(*path, 0);
+        if (a >= 0) b = NextSelectedNode(*path, static_cast<std::size_t>(a) + 1);
+    }
+    bool joinable = false;
+    if (path != nullptr && k == 2 && a >= 0 && b >= 0) {
+        const auto ia = static_cast<std::size_t>(a), ib = static_cast<std::size_t>(b);
+        joinable = IsOpenEndNode(*path, ia) && IsOpenEndNode(*path, ib) &&
+                   (path->TypeAt(ib) & kCloseFigure) == 0;
+    }
+    state[kNodeAdd] = k == 0;
+    state[kNodeJoinLine] = joinable;
+    state[kNodeJoinIntersection] = joinable;
+    state[kNodeDelete] = k > 0;
+    state[kNodeSplit] = path != nullptr && k > 0 && SplitRule(*path);
+    state[kNodeToCurve] = path != nullptr && ToCurveRule(*path);
+    state[kNodeToLine] = path != nullptr && ToLineRule(*path);
+    state[kNodeReduce] = k > 0;
+    state[kNodeProperties] = path != nullptr;
+    return state;
+}
+
+bool ConvertToCurve(PathObject& path, std::size_t index) {
+    const auto at = SegmentNode(path, index);
+    if (!at) return false;
+    const auto segment = SegmentEndingAt(path, *at);
+    if (!segment || segment->kind != SegmentKind::Line) return false;
+    const Point2 p0 = segment->start, p1 = segment->End();
+    const Point2 c1{p0.x + (p1.x - p0.x) * 0.33333, p0.y + (p1.y - p0.y) * 0.33333};
+    const Point2 c2{p0.x + (p1.x - p0.x) * 0.66666, p0.y + (p1.y - p0.y) * 0.66666};
+    const NodeType t = path.TypeAt(*at);
+    path.SetType(*at, static_cast<NodeType>((t & (kSelected | kCloseFigure)) | node::kBezierTo));
+    path.InsertNodes(*at, NodeRun{{c1, c2}, {node::kBezierTo, node::kBezierTo}});
+    return true;
+}
+
+bool ConvertToLine(PathObject& path, std::size_t index) {
+    const auto at = SegmentNode(path, index);
+    if (!at) return false;
+    const auto segment = SegmentEndingAt(path, *at);
+    if (!segment || segment->kind != SegmentKind::Bezier) return false;
+    const NodeType t = path.TypeAt(*at);
+    path.SetType(*at, static_cast<NodeType>((t & (kSelected | kCloseFigure)) | node::kLineTo));
+    path.CutNodes(*at - 2, 2);
+    return true;
+}
+
+double AddNodeTolerance(const PathObject& path) {
+    const Document* document = path.GetOwner();
+    if (document != nullptr && document->view.zoom > 0) return 5.0 / document->view.zoom;
+    return 10.0;
+}
+
+bool AddNodeAt(PathObject& path, Point2 q, double tolerance) {
+    struct Best {
+        PathSegment segment;
+        std::size_t previousEnd = 0;
+    };
+    std::optional<Best> best;
+    std::size_t previousEnd = 0;
+    if (!(tolerance <= 1e300)) tolerance = std::isnan(tolerance) ? -1 : 1e300;
+    SegmentCursor cursor(path.Points(), path.Types());
+    PathSegment s;
+    while (cursor.Next(s)) {
+        double distance = 0;
+        switch (s.kind) {
+        case SegmentKind::Move: previousEnd = s.index; continue;
+        case SegmentKind::Line:
+        case SegmentKind::Close: distance = DistanceToSegment(q, s.start, s.End()); break;
+        case SegmentKind::Bezier: distance = NearestOnBezier(s.Curve(), q).distance; break;
+        }
+        // While the segment is hit, it is the best so far and the tolerance shrinks by 5 %: the
+        // nearest segment wins, and of equally near ones the earlier, since the later one meets a
+        // tolerance already below their distance. A segment at distance 0 leaves none for later.
+        while (distance <= tolerance && tolerance > 0) {
+            best = Best{s, previousEnd};
+            tolerance = distance > 0 ? tolerance * 0.95 : -1;
+        }
+        if (s.kind != SegmentKind::Close) previousEnd = s.EndIndex();
+    }
+    if (!best) return false;
+
+    const PathSegment& hit = best->segment;
+    if (hit.kind == SegmentKind::Bezier) {
+        const CubicBezier curve = hit.Curve();
+        const BezierHalves halves = SplitBezier(curve, NearestOnBezier(curve, q).t);
+        path.SetPoint(hit.index, halves.first.p1);
+        path.SetPoint(hit.index + 1, halves.first.p2);
+        path.InsertNodes(hit.index + 2,
+                         NodeRun{{halves.first.p3, halves.second.p1, halves.second.p2},
+                                 {node::kBezierTo, node::kBezierTo, node::kBezierTo}});
+        return true;
+    }
+    const Point2 a = hit.start, b = hit.End();
+    Point2 foot;
+    if (std::fabs(a.x - b.x) < 1e-6) {
+        foot = {a.x, q.y};
+    } else if (std::fabs(a.y - b.y) < 1e-6) {
+        foot = {q.x, a.y};
+    } else {
+        const Point2 ab = b - a;
+        const double t = ((q.x - a.x) * ab.x + (q.y - a.y) * ab.y) / (ab.x * ab.x + ab.y * ab.y);
+        foot = a + ab * t;
+    }
+    if (hit.kind == SegmentKind::Line) {
+        path.InsertNodes(hit.index, NodeRun{{foot}, {node::kLineTo}});
+    } else {
+        // The closing segment gets its node after the figure's last one, which hands on the
+        // close bit.
+        const std::size_t last = best->previousEnd;
+        path.SetType(last, path.TypeAt(last) & ~kCloseFigure);
+        path.InsertNodes(last + 1, NodeRun{{foot}, {node::kLineTo | kCloseFigure}});
+    }
+    return true;
+}
+
+bool JoinWithLine(PathObject& path, std::size_t a, std::size_t b) {
+    return Join(path, a, b).has_value();
+}
+
+bool JoinAtIntersection(PathObject& path, std::size_t a, std::size_t b) {
+    const std::size_t n = path.NodeCount();
+    if (a == b || a >= n || b >= n || !IsOpenEndNode(path, a) || !IsOpenEndNode(path, b)) {
+        return false;
+    }
+    const auto na = EndSegmentNeighbour(path, a);
+    const auto nb = EndSegmentNeighbour(path, b);
+    if (na && nb) {
+        const Point2 pa = path.PointAt(a), pb = path.PointAt(b);
+        const Point2 da = pa - *na, db = pb - *nb;
+        const double cross = Cross(da, db);
+        const double scale = std::hypot(da.x, da.y) * std::hypot(db.x, db.y);
+        if (std::fabs(cross) > 1e-9 * scale) {
+            const double s = Cross(pb - pa, db) / cross;
+            const Point2 x = pa + da * s;
+            if (std::isfinite(x.x) && std::isfinite(x.y)) {
+                path.SetPoint(a, x);
+                path.SetPoint(b, x);
+            }
+        }
+    }
+    const auto joined = Join(path, a, b);
+    if (!joined) return false;
+    // Both ends now lie on the intersection: the straight segment between them has no length
+    // and its node goes, so that the two ends become one corner.
+    const std::size_t k = joined->node;
+    if (joined->segmentAdded && k > 0 && node::IsLineTo(path.TypeAt(k)) &&
+        path.PointAt(k) == path.PointAt(k - 1)) {
+        const NodeType t = path.TypeAt(k);
+        path.CutNodes(k, 1);
+        path.SetType(k - 1, static_cast<NodeType>(path.TypeAt(k - 1) | (t & (kSelected | kCloseFigure))));
+    }
+    return true;
+}
+
+std::size_t DeleteSelectedNodes(PathObject& path) {
+    const std::size_t before = path.NodeCount();
+    NodeRun out;
+    out.points.reserve(before);
+    out.types.reserve(before);
+
+    // A segment being carried to the next kept node: a line, or a curve with its two controls.
+    struct Pending {
+        bool active = false;
+        bool curve = false;
+        Point2 start, c1, c2, end;
+        NodeType c1Type = node::kBezierTo, c2Type = node::kBezierTo;
+    };
+
+    const auto& types = path.Types();
+    SegmentCursor cursor(path.Points(), types);
+    PathSegment s;
+    bool more = cursor.Next(s);
+    while (more) {
+        // One figure: its move, then its segments up to the next move.
+        const std::size_t figureOut = out.points.size();
+        std::size_t kept = 0;
+        bool closed = false;
+        Pending pending;
+        bool haveStart = false;
+        if (!Selected(types[s.index])) {
+            out.points.push_back(s.End());
+            out.types.push_back(static_cast<NodeType>(WithKind(types[s.index], node::kMoveTo) & ~kCloseFigure));
+            haveStart = true;
+            kept = 1;
+        }
+        while ((more = cursor.Next(s)) && s.kind != SegmentKind::Move) {
+            if (s.kind == SegmentKind::Close) {
+                closed = true;
+                continue;
+            }
+            const std::size_t end = s.EndIndex();
+            if (!haveStart) {
+                // Segments before the first kept node go with the deleted move.
+                if (!Selected(types[end])) {
+                    out.points.push_back(s.End());
+                    out.types.push_back(static_cast<NodeType>(WithKind(types[end], node::kMoveTo) & ~kCloseFigure));
+                    haveStart = true;
+                    kept = 1;
+                }
+                continue;
+            }
+            const bool curve = s.kind == SegmentKind::Bezier;
+            if (!pending.active) {
+                pending.active = true;
+                pending.curve = curve;
+                pending.start = s.start;
+                pending.end = s.End();
+                if (curve) {
+                    pending.c1 = s.points[0];
+                    pending.c2 = s.points[1];
+                    pending.c1Type = types[s.index];
+                    pending.c2Type = types[s.index + 1];
+                }
+            } else if (pending.curve || curve) {
+                // Merging across a deleted node keeps the outer controls; a straight side
+                // offers the control it would get from "In Kurve".
+                if (!pending.curve) {
+                    pending.c1 = pending.start + (pending.end - pending.start) * 0.33333;
+                    pending.c1Type = node::kBezierTo;
+                }
+                if (curve) {
+                    pending.c2 = s.points[1];
+                    pending.c2Type = types[s.index + 1];
+                } else {
+                    pending.c2 = s.start + (s.End() - s.start) * 0.66666;
+                    pending.c2Type = node::kBezierTo;
+                }
+                pending.curve = true;
+                pending.end = s.End();
+            } else {
+                pending.end = s.End();
+            }
+            if (Selected(types[end])) continue;
+            if (pending.curve) {
+                out.points.push_back(pending.c1);
+                out.types.push_back(WithKind(pending.c1Type, node::kBezierTo) & ~(kSelected | kCloseFigure));
+                out.points.push_back(pending.c2);
+                out.types.push_back(WithKind(pending.c2Type, node::kBezierTo) & ~(kSelected | kCloseFigure));
+            }
+            out.points.push_back(pending.end);
+            out.types.push_back(static_cast<NodeType>(
+                WithKind(types[end], pending.curve ? node::kBezierTo : node::kLineTo) & ~kCloseFigure));
+            pending = Pending{};
+            ++kept;
+        }
+        if (kept < 2) {
+            out.points.resize(figureOut);
+            out.types.resize(figureOut);
+        } else if (closed) {
+            out.types.back() |= kCloseFigure;
+        }
+    }
+    path.ClearNodes();
+    path.InsertNodes(0, out);
+    return before - path.NodeCount();
+}
+
+void SplitAtSelectedNodes(PathObject& path) {
+    const std::size_t n = path.NodeCount();
+    NodeRun all = path.CutNodes(0, n);
+    for (NodeType& t : all.types) t &= ~kCloseFigure;
+    // The segment ends: the end point of each Bezier run and each line node.
+    std::vector<bool> segmentEnd(n, false);
+    {
+        SegmentCursor cursor(all.points, all.types);
+        PathSegment s;
+        while (cursor.Next(s)) {
+            if (s.kind == SegmentKind::Line || s.kind == SegmentKind::Bezier) segmentEnd[s.EndIndex()] = true;
+        }
+    }
+    NodeRun out;
+    out.points.reserve(n + n / 2);
+    out.types.reserve(n + n / 2);
+    for (std::size_t i = 0; i < n; ++i) {
+        out.points.push_back(all.points[i]);
+        out.types.push_back(all.types[i]);
+        if (segmentEnd[i] && Selected(all.types[i]) && i + 1 < n && !node::IsMoveTo(all.types[i + 1])) {
+            out.points.push_back(all.points[i]);
+            out.types.push_back(node::kMoveTo);
+        }
+    }
+    path.InsertNodes(0, out);
+}
+
+namespace {
+
+// Reduction: the largest distance of the original from the result, the spacing at which the
+// original is sampled for the fit, the fewest samples taken of a curve, and the length above
+// which a straight segment is kept as it is.
+constexpr double kReduceTolerance = 2.8;
+constexpr double kSampleSpacing = 0.5;
+constexpr std::size_t kCurveSamples = 20;
+constexpr std::size_t kMaxSamples = 32767;
+constexpr double kLongLine = 20;
+// A direction change above this at a node keeps the node as a corner (cos 30 degrees).
+constexpr double kCornerCosine = 0.8660254037844386;
+
+std::size_t SampleCount(double length, std::size_t fewest) {
+    const double wanted = std::ceil(length / kSampleSpacing);
+    if (!(wanted < static_cast<double>(kMaxSamples))) return kMaxSamples;
+    return std::max(fewest, static_cast<std::size_t>(wanted));
+}
+
+void CopySegment(const PathObject& path, const PathSegment& s, NodeRun& out) {
+    for (std::size_t k = 0; k < s.points.size(); ++k) {
+        out.points.push_back(s.points[k]);
+        out.types.push_back(path.TypeAt(s.index + k));
+    }
+}
+
+// Refits the segments run[0..] (all ends selected, their start selected too) into out; falls back
+// to copying them when the fit saves nothing.
+void ReduceRun(const PathObject& path, std::span<const PathSegment> run, NodeRun& out) {
+    std::vector<Point2> data{run.front().start};
+    std::vector<bool> corner{false};
+    std::vector<std::size_t> nodeAt; // data index of each interior original node
+    std::size_t original = 0;
+    for (const PathSegment& s : run) {
+        original += s.points.size();
+        if (s.kind == SegmentKind::Line) {
+            const Point2 a = s.start, b = s.End();
+            const double length = std::hypot(b.x - a.x, b.y - a.y);
+            if (length > kLongLine) {
+                // A long straight segment stays: both its ends become corners.
+                corner.back() = true;
+                data.push_back(b);
+                corner.push_back(true);
+            } else {
+                const std::size_t n = SampleCount(length, 1);
+                for (std::size_t k = 1; k <= n; ++k) {
+                    data.push_back(a + (b - a) * (static_cast<double>(k) / n));
+                    corner.push_back(false);
+                }
+            }
+        } else {
+            const CubicBezier c = s.Curve();
+            const double polygon = std::hypot(c.p1.x - c.p0.x, c.p1.y - c.p0.y) +
+                                   std::hypot(c.p2.x - c.p1.x, c.p2.y - c.p1.y) +
+                                   std::hypot(c.p3.x - c.p2.x, c.p3.y - c.p2.y);
+            const std::size_t n = SampleCount(polygon, kCurveSamples);
+            for (std::size_t k = 1; k <= n; ++k) {
+                data.push_back(k == n ? c.p3 : c.At(static_cast<double>(k) / n));
+                corner.push_back(false);
+            }
+        }
+        nodeAt.push_back(data.size() - 1);
+    }
+    nodeAt.pop_back(); // the run's last node is an end, not an interior node
+    for (std::size_t d : nodeAt) {
+        const Point2 in = data[d] - data[d - 1], out2 = data[d + 1] - data[d];
+        const double lengths = std::hypot(in.x, in.y) * std::hypot(out2.x, out2.y);
+        if (lengths > 0 && (in.x * out2.x + in.y * out2.y) < kCornerCosine * lengths) corner[d] = true;
+    }
+    corner.back() = true;
+
+    // Fitting to a little less than the tolerance covers the original between its samples too.
+    FitLimits limits;
+    limits.tolerance = kReduceTolerance - kSampleSpacing / 2;
+    const std::vector<FitPiece> pieces = FitPolyline(data, corner, limits);
+    std::size_t reduced = 0;
+    for (const FitPiece& piece : pieces) reduced += piece.curve ? 3 : 1;
+    if (pieces.empty() || reduced >= original) {
+        for (const PathSegment& s : run) CopySegment(path, s, out);
+        return;
+    }
+    const NodeType lastType = path.TypeAt(run.back().EndIndex());
+    for (std::size_t k = 0; k < pieces.size(); ++k) {
+        const FitPiece& piece = pieces[k];
+        const NodeType kind = piece.curve ? node::kBezierTo : node::kLineTo;
+        if (piece.curve) {
+            out.points.push_back(piece.c1);
+            out.types.push_back(node::kBezierTo);
+            out.points.push_back(piece.c2);
+            out.types.push_back(node::kBezierTo);
+        }
+        out.points.push_back(data[piece.end]);
+        out.types.push_back(k + 1 == pieces.size() ? WithKind(lastType, kind)
+                                                   : static_cast<NodeType>(kind | kSelected));
+    }
+}
+
+} // namespace
+
+std::size_t ReduceSelectedNodes(PathObject& path) {
+    const std::size_t before = path.NodeCount();
+    std::vector<PathSegment> segments;
+    {
+        SegmentCursor cursor(path.Points(), path.Types());
+        PathSegment s;
+        while (cursor.Next(s)) {
+            if (s.kind != SegmentKind::Close) segments.push_back(s);
+        }
+    }
+    NodeRun out;
+    out.points.reserve(before);
+    out.types.reserve(before);
+    std::size_t startNode = 0; // the on-curve node the next segment starts from
+    for (std::size_t k = 0; k < segments.size();) {
+        const PathSegment& s = segments[k];
+        if (s.kind == SegmentKind::Move) {
+            CopySegment(path, s, out);
+            startNode = s.index;
+            ++k;
+            continue;
+        }
+        std::size_t m = k;
+        if (Selected(path.TypeAt(startNode))) {
+            while (m < segments.size() && segments[m].kind != SegmentKind::Move &&
+                   Selected(path.TypeAt(segments[m].EndIndex()))) {
+                ++m;
+            }
+        }
+        if (m - k >= 2) {
+            ReduceRun(path, std::span<const PathSegment>(segments.data() + k, m - k), out);
+        } else {
+            m = k + 1;
+            CopySegment(path, s, out);
+        }
+        startNode = segments[m - 1].EndIndex();
+        k = m;
+    }
+    path.ClearNodes();
+    path.InsertNodes(0, out);
+    return before - path.NodeCount();
+}
+
+} // namespace rhomba

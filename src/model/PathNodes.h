@@ -1,0 +1,84 @@
+#pragma once
+
+#include "geometry/Point2.h"
+
+#include <array>
+#include <cstddef>
+
+namespace rhomba {
+
+class GraphicObject;
+class PathObject;
+
+// --- Queries the node menu and the tools read ---------------------------------------------------
+
+// Nodes whose selection bit is set, control points included.
+std::size_t CountSelectedNodes(const PathObject& path);
+// The first selected node at or after from, or -1.
+long NextSelectedNode(const PathObject& path, std::size_t from);
+// The first and last node of the figure that holds index.
+struct FigureRange {
+    std::size_t first = 0;
+    std::size_t last = 0;
+};
+FigureRange FigureOf(const PathObject& path, std::size_t index);
+// True for the first or last node of an open figure.
+bool IsOpenEndNode(const PathObject& path, std::size_t index);
+std::size_t CountFigures(const PathObject& path);
+
+// The enabling rules of the node menu, read from the type bytes as they stand.
+bool SplitRule(const PathObject& path);
+bool ToCurveRule(const PathObject& path);
+bool ToLineRule(const PathObject& path);
+
+// The node menu's entries 1 to 9 ("Hinzufuegen" ... "Eigenschaften"); index 0 is unused.
+enum NodeMenuEntry {
+    kNodeAdd = 1,
+    kNodeJoinLine,
+    kNodeJoinIntersection,
+    kNodeDelete,
+    kNodeSplit,
+    kNodeToCurve,
+    kNodeToLine,
+    kNodeReduce,
+    kNodeProperties,
+};
+using NodeMenuState = std::array<bool, 10>;
+// Which entries are enabled for the first selected object (null when nothing is selected).
+NodeMenuState NodeMenuRules(const GraphicObject* first);
+
+// --- Node operations -----------------------------------------------------------------------------
+
+// "In Kurve": the line segment ending at index (at the last node when index is a closed figure's
+// move) becomes a Bezier with its controls at the truncated thirds. False when nothing changed.
+// Note: 0.33333 and 0.66666 on purpose; existing drawings depend on them.
+bool ConvertToCurve(PathObject& path, std::size_t index);
+// "In Linie": the Bezier ending at index becomes a straight segment.
+bool ConvertToLine(PathObject& path, std::size_t index);
+
+// The hit tolerance of "Hinzufuegen": five screen points in a document's view, else 10 points.
+double AddNodeTolerance(const PathObject& path);
+// "Hinzufuegen": inserts a node into the segment nearest to q within tolerance (of equally near
+// segments the earlier one); a curve is split at the nearest parameter and keeps its look.
+bool AddNodeAt(PathObject& path, Point2 q, double tolerance);
+
+// "Verbinden mit Linie": joins two end nodes of open figures with a straight segment, or closes a
+// figure when they are its two ends.
+bool JoinWithLine(PathObject& path, std::size_t a, std::size_t b);
+// "Verbinden an Schnittpunkt": both end nodes move to the intersection of the lines through their
+// end segments and become one node; parallel lines fall back to a straight join.
+bool JoinAtIntersection(PathObject& path, std::size_t a, std::size_t b);
+
+// "Loeschen": removes the selected on-curve nodes and joins their neighbours; returns the number
+// of nodes removed. A figure left with one node disappears; the path itself stays, even empty, for
+// the caller to delete.
+std::size_t DeleteSelectedNodes(PathObject& path);
+
+// "Trennen": opens every figure and starts a new figure at each selected segment end that is
+// followed by more of its figure.
+void SplitAtSelectedNodes(PathObject& path);
+
+// "Automatisch reduzieren": refits the runs of selected nodes; returns the number of nodes saved.
+std::size_t ReduceSelectedNodes(PathObject& path);
+
+} // namespace rhomba
