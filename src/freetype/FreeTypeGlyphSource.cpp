@@ -24,8 +24,15 @@ struct LoadedFace {
     FT_Face face = nullptr; // null when the face could not be loaded at all
 };
 
-// 26.6 to 16.16.
-std::int32_t ToFixed(FT_Pos v) { return static_cast<std::int32_t>(v * 1024); }
+// 26.6 to 16.16 the way the system's glyph call widens it: the six fraction bits are repeated
+// down the 16-bit fraction (63/64 becomes 65535/65536), not shifted in with zeros.
+std::int32_t ToFixed(FT_Pos v) {
+    const FT_Pos whole = v >> 6;
+    const FT_Pos six = v & 63;
+    const FT_Pos fraction = six << 10 | six << 4 | six >> 2;
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(whole) << 16 |
+                                     static_cast<std::uint32_t>(fraction));
+}
 
 bool OnCurve(const FT_Outline& o, int i) { return FT_CURVE_TAG(o.tags[i]) == FT_CURVE_TAG_ON; }
 bool Cubic(const FT_Outline& o, int i) { return FT_CURVE_TAG(o.tags[i]) == FT_CURVE_TAG_CUBIC; }
