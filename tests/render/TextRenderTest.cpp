@@ -18,7 +18,7 @@ protected:
 TEST(TextColour, HalfFillPlusStrokeWrapsPerChannel) {
     EXPECT_EQ(MixTextColour(0x0000FF, 0x0000FF), 0x00007Eu);
     EXPECT_EQ(MixTextColour(0x804020, 0x010203), 0x412213u);
-    EXPECT_EQ(MixTextColour(0xFFFFFF, 0x818282), 0x010100u);
+    EXPECT_EQ(MixTextColour(0xFFFFFF, 0x818282), 0x000101u);
 }
 
 TEST(TextDirection, EscapementByQuadrant) {
