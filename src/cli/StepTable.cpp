@@ -23,6 +23,7 @@ struct Registration {
     static const Registration name##Registration { &name }
 
 RHOMBA_CONCERN_STEPS(FormatSteps);
+RHOMBA_CONCERN_STEPS(TextSteps);
 
 const std::vector<Step>& AllSteps() {
     static const std::vector<Step> all = [] {

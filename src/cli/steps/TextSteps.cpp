@@ -1,0 +1,30 @@
+// The apply steps of the text commands.
+#include "cli/Step.h"
+#include "model/Reporter.h"
+#include "text/TextToPath.h"
+
+#include <string>
+
+namespace rhomba::cli {
+
+namespace {
+
+bool RunTextToPath(StepContext& context, std::string_view rest) {
+    if (!rest.empty()) {
+        context.reporter.Inform("rhomba-cli: text-to-path takes no words");
+        return false;
+    }
+    ConvertSelectedTextsToPaths(context.document);
+    return true;
+}
+
+} // namespace
+
+const std::vector<Step>& TextSteps() {
+    static const std::vector<Step> steps = {
+        {"text-to-path", "text-to-path", RunTextToPath},
+    };
+    return steps;
+}
+
+} // namespace rhomba::cli
