@@ -23,6 +23,8 @@ struct Registration {
     static const Registration name##Registration { &name }
 
 RHOMBA_CONCERN_STEPS(FormatSteps);
+RHOMBA_CONCERN_STEPS(TransformSteps);
+RHOMBA_CONCERN_STEPS(ShapeSteps);
 RHOMBA_CONCERN_STEPS(TextSteps);
 
 const std::vector<Step>& AllSteps() {

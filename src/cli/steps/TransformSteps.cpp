@@ -1,0 +1,196 @@
+// The apply steps of the isometric projections and the transformation dialogs. The typed values
+// go through the dialog models exactly as if typed into the fields before OK.
+#include "cli/Step.h"
+#include "model/Document.h"
+#include "model/Reporter.h"
+#include "transform/IsoProjection.h"
+#include "ui/dialogs/AffineDialogs.h"
+#include "ui/dialogs/IsoSpaceDialogs.h"
+
+#include <string>
+#include <vector>
+
+namespace rhomba::cli {
+
+namespace {
+
+std::vector<std::string_view> Words(std::string_view text) {
+    std::vector<std::string_view> words;
+    std::size_t i = 0;
+    while (i < text.size()) {
+        while (i < text.size() && text[i] == ' ') ++i;
+        const std::size_t start = i;
+        while (i < text.size() && text[i] != ' ') ++i;
+        if (i > start) words.push_back(text.substr(start, i - start));
+    }
+    return words;
+}
+
+bool Tell(StepContext& context, std::string_view message) {
+    context.reporter.Inform("rhomba-cli: " + std::string(message));
+    return false;
+}
+
+bool ReadFlag(std::string_view word, bool& flag) {
+    if (word != "0" && word != "1") return false;
+    flag = word == "1";
+    return true;
+}
+
+// A dialog on in-memory fields that report each write back to the model, as the platform does.
+template <typename Model>
+struct Dialog {
+    FieldTable fields;
+    Model model{RunMemory(), fields};
+
+    Dialog() {
+        fields.onNotify = [this](int id, int code) { model.OnCommand(id, code); };
+        model.Open();
+    }
+    void Type(int id, std::string_view text) { fields.SetText(id, text); }
+    void Click(const int* group, int count, int chosen) {
+        CheckRadio(fields, group, count, chosen);
+        model.OnCommand(group[chosen], kButtonClicked);
+    }
+    void Check(int id, bool on) {
+        fields.SetChecked(id, on);
+        model.OnCommand(id, kButtonClicked);
+    }
+};
+
+bool RunIso(StepContext& context, std::string_view rest) {
+    static const struct {
+        std::string_view word;
+        int mode;
+    } kModes[] = {
+        {"links", kFaceLeft},           {"rechts", kFaceRight},
+        {"oben1", kFaceTop1},           {"oben2", kFaceTop2},
+        {"zurueck-links", kBackFromLeft}, {"zurueck-rechts", kBackFromRight},
+        {"zurueck-oben1", kBackFromTop1}, {"zurueck-oben2", kBackFromTop2},
+    };
+    for (const auto& m : kModes) {
+        if (rest == m.word) {
+            ProjectSelection(context.document, m.mode);
+            return true;
+        }
+    }
+    return Tell(context, "iso needs links, rechts, oben1, oben2 or zurueck-... of them");
+}
+
+bool RunRotate(StepContext& context, std::string_view rest) {
+    const auto words = Words(rest);
+    if (words.size() != 2 || (words[1] != "cw" && words[1] != "ccw")) {
+        return Tell(context, "rotate needs ANGLE cw|ccw");
+    }
+    if (!RequireSelection(context.document, context.reporter)) return true;
+    Dialog<RotateDialogModel> d;
+    d.Type(RotateDialogModel::kAngle, words[0]);
+    const bool ccw = words[1] == "ccw";
+    d.fields.SetChecked(RotateDialogModel::kClockwise, !ccw);
+    d.fields.SetChecked(RotateDialogModel::kCounterClockwise, ccw);
+    d.model.Ok(context.document);
+    return true;
+}
+
+bool RunStretch(StepContext& context, std::string_view rest) {
+    const auto words = Words(rest);
+    if (words.size() != 2) return Tell(context, "stretch needs X Y in percent");
+    if (!RequireSelection(context.document, context.reporter)) return true;
+    Dialog<StretchDialogModel> d;
+    // "beide Achsen gleich" would copy the second value over the first; it stays checked only
+    // when the two are typed alike.
+    d.Check(StretchDialogModel::kBothAxes, words[0] == words[1]);
+    d.Type(StretchDialogModel::kX, words[0]);
+    d.Type(StretchDialogModel::kY, words[1]);
+    d.model.Ok(context.document);
+    return true;
+}
+
+bool RunShear(StepContext& context, std::string_view rest) {
+    const auto words = Words(rest);
+    if (words.size() != 2) return Tell(context, "shear needs XDEG YDEG");
+    if (!RequireSelection(context.document, context.reporter)) return true;
+    Dialog<ShearDialogModel> d;
+    d.Type(ShearDialogModel::kXDegrees, words[0]);
+    d.Type(ShearDialogModel::kYDegrees, words[1]);
+    d.model.Ok(context.document);
+    return true;
+}
+
+bool RunMove(StepContext& context, std::string_view rest) {
+    const auto words = Words(rest);
+    if (words.size() != 2) return Tell(context, "move needs XMM YMM");
+    if (!RequireSelection(context.document, context.reporter)) return true;
+    Dialog<MoveDialogModel> d;
+    d.Type(MoveDialogModel::kX, words[0]);
+    d.Type(MoveDialogModel::kY, words[1]);
+    d.model.Ok(context.document);
+    return true;
+}
+
+bool RunCylinder(StepContext& context, std::string_view rest) {
+    const auto words = Words(rest);
+    bool foreshorten = false;
+    if (words.size() != 2 || !ReadFlag(words[1], foreshorten)) {
+        return Tell(context, "cylinder needs ANGLE 0|1");
+    }
+    if (!RequireSelection(context.document, context.reporter)) return true;
+    Dialog<CylinderDialogModel> d;
+    d.Type(CylinderDialogModel::kAngle, words[0]);
+    d.Check(CylinderDialogModel::kForeshorten, foreshorten);
+    d.model.Ok(context.document);
+    return true;
+}
+
+int IndexOf(std::string_view word, std::initializer_list<std::string_view> names) {
+    int i = 0;
+    for (std::string_view name : names) {
+        if (word == name) return i;
+        ++i;
+    }
+    return -1;
+}
+
+bool RunPlane(StepContext& context, std::string_view rest) {
+    const auto words = Words(rest);
+    bool foreshorten = false;
+    int plane = -1, first = -1, second = -1;
+    if (words.size() == 6) {
+        plane = IndexOf(words[0], {"XY", "ZY", "ZX", "XZ"});
+        first = IndexOf(words[1], {"X", "Y", "Z"});
+        second = IndexOf(words[3], {"X", "Y", "Z"});
+    }
+    if (plane < 0 || first < 0 || second < 0 || !ReadFlag(words[5], foreshorten)) {
+        return Tell(context, "plane needs XY|ZY|ZX|XZ X|Y|Z ANGLE1 X|Y|Z ANGLE2 0|1");
+    }
+    if (first == second) return Tell(context, "plane: the two axes must differ");
+    if (!RequireSelection(context.document, context.reporter)) return true;
+    Dialog<PlaneDialogModel> d;
+    d.Click(PlaneDialogModel::kPlanes, 4, plane);
+    d.Click(PlaneDialogModel::kFirstAxes, 3, first);
+    d.Click(PlaneDialogModel::kSecondAxes, 3, second);
+    d.Type(PlaneDialogModel::kFirstAngle, words[2]);
+    d.Type(PlaneDialogModel::kSecondAngle, words[4]);
+    d.Check(PlaneDialogModel::kForeshorten, foreshorten);
+    d.model.Ok(context.document);
+    return true;
+}
+
+} // namespace
+
+const std::vector<Step>& TransformSteps() {
+    static const std::vector<Step> steps = {
+        {"iso", "iso links|rechts|oben1|oben2|zurueck-links|zurueck-rechts|zurueck-oben1|zurueck-oben2",
+         RunIso},
+        {"rotate", "rotate ANGLE cw|ccw", RunRotate},
+        {"stretch", "stretch XPERCENT YPERCENT", RunStretch},
+        {"shear", "shear XDEG YDEG", RunShear},
+        {"move", "move XMM YMM", RunMove},
+        {"cylinder", "cylinder ANGLE FORESHORTEN(0|1)", RunCylinder},
+        {"plane", "plane XY|ZY|ZX|XZ AXIS1 ANGLE1 AXIS2 ANGLE2 FORESHORTEN(0|1), AXIS X|Y|Z",
+         RunPlane},
+    };
+    return steps;
+}
+
+} // namespace rhomba::cli
