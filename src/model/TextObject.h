@@ -17,6 +17,8 @@ public:
 
     void Describe(std::string& out) const override;
     void SaveNative(NativeWriter& out, bool reset) override;
+    // Written as an SVG text element at size 16, scaled, turned and moved into place.
+    void ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) override;
     ObjectKind GetKind() const override { return ObjectKind::Text; }
     // On the screen the outline draws, with the text's selection.
     void DrawEdit(Device& device, const Matrix2D& view, unsigned flags) override;
