@@ -26,6 +26,7 @@ RHOMBA_CONCERN_STEPS(FormatSteps);
 RHOMBA_CONCERN_STEPS(TransformSteps);
 RHOMBA_CONCERN_STEPS(ShapeSteps);
 RHOMBA_CONCERN_STEPS(TextSteps);
+RHOMBA_CONCERN_STEPS(NodeSteps);
 
 const std::vector<Step>& AllSteps() {
     static const std::vector<Step> all = [] {

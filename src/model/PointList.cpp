@@ -1,0 +1,129 @@
+#include "model/PointList.h"
+
+#include "geometry/Isometric.h"
+#include "geometry/NumberText.h"
+
+#include <cmath>
+#include <vector>
+
+namespace rhomba {
+
+namespace {
+
+// Millimetres to a thousandth: finer than any screen shows, coarse enough to read.
+void AppendMillimetres(std::string& out, double points) {
+    double mm = std::round(points / kPointsPerMillimetre * 1000) / 1000;
+    if (mm == 0) mm = 0; // no "-0"
+    std::string text = FormatG(mm);
+    for (char& c : text) {
+        if (c == '.') c = ',';
+    }
+    out += text;
+}
+
+bool IsSeparator(char c) { return c == ' ' || c == '\t' || c == ';' || c == '\r'; }
+
+std::vector<std::string_view> Words(std::string_view line) {
+    std::vector<std::string_view> words;
+    std::size_t i = 0;
+    while (i < line.size()) {
+        while (i < line.size() && IsSeparator(line[i])) ++i;
+        const std::size_t start = i;
+        while (i < line.size() && !IsSeparator(line[i])) ++i;
+        if (i > start) words.push_back(line.substr(start, i - start));
+    }
+    return words;
+}
+
+bool ReadNumber(std::string_view word, double& value) {
+    std::size_t end = 0;
+    const double v = ReadLeadingNumber(word, end);
+    if (end == 0 || end != word.size() || !std::isfinite(v)) return false;
+    value = v;
+    return true;
+}
+
+char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+} // namespace
+
+std::string FormatPointList(const PathObject& path) {
+    std::string out;
+    for (std::size_t i = 0; i < path.NodeCount(); ++i) {
+        const NodeType t = path.TypeAt(i);
+        out += node::IsMoveTo(t) ? "M " : node::IsBezier(t) ? "B " : "L ";
+        const Point2 p = path.PointAt(i);
+        AppendMillimetres(out, p.x);
+        out += ' ';
+        AppendMillimetres(out, p.y);
+        if (!node::IsMoveTo(t) && (t & node::kCloseFigure) != 0) out += " Z";
+        out += "\r\n";
+    }
+    return out;
+}
+
+bool ParsePointList(std::string_view input, NodeRun& out) {
+    std::string text(input);
+    for (char& c : text) {
+        if (c == ',') c = '.';
+    }
+    NodeRun run;
+    int bezierRun = 0; // Bezier points seen in the current run of three
+    std::size_t start = 0;
+    while (start <= text.size()) {
+        std::size_t end = text.find('\n', start);
+        if (end == std::string::npos) end = text.size();
+        const std::vector<std::string_view> words = Words(std::string_view(text).substr(start, end - start));
+        start = end + 1;
+        if (words.empty()) continue;
+
+        std::size_t w = 0;
+        NodeType kind = run.types.empty() ? node::kMoveTo : node::kLineTo;
+        double x = 0, y = 0;
+        if (!ReadNumber(words[0], x)) {
+            if (words[0].size() != 1) return false;
+            switch (Upper(words[0][0])) {
+            case 'M': kind = node::kMoveTo; break;
+            case 'L': kind = node::kLineTo; break;
+            case 'B': kind = node::kBezierTo; break;
+            default: return false;
+            }
+            w = 1;
+        }
+        if (words.size() < w + 2 || !ReadNumber(words[w], x) || !ReadNumber(words[w + 1], y)) return false;
+        bool closes = false;
+        if (words.size() == w + 3) {
+            if (Upper(words[w + 2][0]) != 'Z' || words[w + 2].size() != 1) return false;
+            closes = true;
+        } else if (words.size() > w + 3) {
+            return false;
+        }
+
+        // Structure: a move starts the list, curves come in threes after a node, and only a
+        // segment end closes a figure.
+        if (run.types.empty() && kind != node::kMoveTo) return false;
+        if (kind == node::kBezierTo) {
+            bezierRun = bezierRun % 3 + 1;
+        } else if (bezierRun % 3 != 0) {
+            return false;
+        } else {
+            bezierRun = 0;
+        }
+        if (closes && (kind == node::kMoveTo || (kind == node::kBezierTo && bezierRun != 3))) return false;
+        run.points.push_back({x * kPointsPerMillimetre, y * kPointsPerMillimetre});
+        run.types.push_back(static_cast<NodeType>(kind | (closes ? node::kCloseFigure : 0)));
+    }
+    if (bezierRun % 3 != 0 || run.points.size() < 2) return false;
+    out = std::move(run);
+    return true;
+}
+
+bool ApplyPointList(PathObject& path, std::string_view text) {
+    NodeRun run;
+    if (!ParsePointList(text, run)) return false;
+    path.ClearNodes();
+    path.InsertNodes(0, run);
+    return true;
+}
+
+} // namespace rhomba
