@@ -48,14 +48,6 @@ TEST(IsoProjection, FaceMatricesKeepTheirComposition) {
     EXPECT_EQ(BuildFaceMatrix(5, 5, 5), Matrix2D::Identity());
 }
 
-TEST(IsoProjection, CentreIsAFixedPointOfEveryFace) {
-    for (int face = kFaceLeft; face <= kFaceTop2; ++face) {
-        const Point2 p = BuildFaceMatrix(face, 12.5, -7).TransformPoint({12.5, -7});
-        EXPECT_NEAR(p.x, 12.5, 1e-12) << face;
-        EXPECT_NEAR(p.y, -7, 1e-12) << face;
-    }
-}
-
 TEST(IsoProjection, SquareOnTheLeftFace) {
     Document document;
     PathObject* square = AddPolygon(document, {{0, 0}, {10, 0}, {10, 10}, {0, 10}});

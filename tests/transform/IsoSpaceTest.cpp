@@ -40,16 +40,6 @@ TEST(IsoSpace, CutAddsAHalfAndCutsTowardZero) {
     EXPECT_EQ(CutToWhole(-2.7), -2);
 }
 
-TEST(IsoSpace, ViewMatrixScalesOnlyWithoutForeshortening) {
-    for (bool foreshorten : {true, false}) {
-        double x = 3, y = -4, z = 7;
-        IsoViewMatrix(foreshorten).TransformPoint3(x, y, z);
-        const Point2 expected = HandView(3, -4, 7, foreshorten);
-        EXPECT_NEAR(x, expected.x, 1e-12);
-        EXPECT_NEAR(y, expected.y, 1e-12);
-    }
-}
-
 TEST(IsoSpace, LineRoundTheCylinderCollapsesToOnePoint) {
     Document document;
     PathObject* line = AddPolyline(document, {{0, 0}, {100, 0}});
@@ -167,6 +157,18 @@ TEST(IsoSpace, FirstAxisTurnsFirst) {
     IsoViewMatrix(true).TransformPoint3(ex, ey, ez);
     EXPECT_NEAR(x, ex, 1e-9);
     EXPECT_NEAR(y, ey, 1e-9);
+
+    // The turns take their radians through the ten-decimal pi: cos 90 degrees is 4.6e-11 here.
+    PlaneRotationParams quarter;
+    quarter.foreshorten = true;
+    quarter.firstAxis = kAxisZ;
+    quarter.firstAngle = 90;
+    double qx = 1, qy = 0, qz = 0;
+    PlaneRotationMatrix(quarter).TransformPoint3(qx, qy, qz);
+    const double r = 90.0 / 180 * 3.1415926535;
+    const Point2 expected = HandView(std::cos(r), std::sin(r), 0, true);
+    EXPECT_NEAR(qx, expected.x, 1e-14);
+    EXPECT_NEAR(qy, expected.y, 1e-14);
 }
 
 } // namespace
