@@ -72,4 +72,9 @@ elif [[ $native_total -ne $wine_total ]]; then
 else
     echo "OK: gtest cases run natively: $native_total, under Wine: $wine_total"
 fi
+
+# A short fuzz run of the native reader (clang, libFuzzer, sanitizers); fuzz/run.sh runs longer.
+echo "== fuzz: native reader, 60 seconds"
+"$root/fuzz/run.sh" 60 || status=1
+
 exit "$status"
