@@ -30,7 +30,7 @@ PrintMetrics ReadPrintMetrics(Device& printer) {
 }
 
 bool RunPrintJob(Document& document, Device& printer) {
-    if (printer.StartDoc(PrintDocumentName(document)) < 0) return false;
+    if (printer.StartDocument(PrintDocumentName(document)) < 0) return false;
     const PrintMetrics m = ReadPrintMetrics(printer);
     printer.StartPage();
     printer.SetMapMode(gdi::kMmAnisotropic);

@@ -90,7 +90,7 @@ public:
     virtual GdiHandle ExtCreatePen(std::uint32_t style, std::uint32_t width, const LogBrush& brush,
                                    std::span<const std::uint32_t> entries) = 0;
     virtual GdiHandle CreateSolidBrush(ColorRef color) = 0;
-    virtual GdiHandle CreateFontIndirect(const LogFont& font) = 0;
+    virtual GdiHandle CreateLogFont(const LogFont& font) = 0;
     virtual GdiHandle GetStockObject(StockObject object) = 0;
     // Returns the object of the same kind that was selected before.
     virtual GdiHandle SelectObject(GdiHandle object) = 0;
@@ -123,9 +123,9 @@ public:
     virtual void SetViewportExt(int cx, int cy) = 0;
     virtual void SetWindowOrg(int x, int y) = 0;
 
-    // Printer side. StartDoc is the STARTDOC escape with the spooler name; a negative result
+    // Printer side. StartDocument is the STARTDOC escape with the spooler name; a negative result
     // means the job cannot start. PrinterPoint answers GETPRINTINGOFFSET and GETPHYSPAGESIZE.
-    virtual int StartDoc(const std::string& name) = 0;
+    virtual int StartDocument(const std::string& name) = 0;
     virtual DevicePoint PrinterPoint(int escape) = 0;
     virtual int GetDeviceCaps(int index) = 0;
     virtual void StartPage() = 0;

@@ -114,7 +114,7 @@ void SelectDeviceFont(Device& device, const std::string& face, double size, int 
     font.faceName = name.substr(0, 31);
     const std::size_t nul = font.faceName.find('\0');
     if (nul != std::string::npos) font.faceName.resize(nul);
-    SelectReplacing(device, device.CreateFontIndirect(font));
+    SelectReplacing(device, device.CreateLogFont(font));
 }
 
 void SetDeviceTextColor(Device& device, ColorRef color) {

@@ -100,7 +100,7 @@ GdiHandle RecordingDevice::CreateSolidBrush(ColorRef color) {
     return h;
 }
 
-GdiHandle RecordingDevice::CreateFontIndirect(const LogFont& f) {
+GdiHandle RecordingDevice::CreateLogFont(const LogFont& f) {
     const GdiHandle h = Create(Kind::Font);
     if (recording_) {
         Log("CreateFont" + Ints({f.height, f.width, f.escapement, f.orientation, f.weight,
@@ -217,7 +217,7 @@ void RecordingDevice::SetWindowOrg(int x, int y) {
     if (recording_) Log("SetWindowOrg" + Ints({x, y}));
 }
 
-int RecordingDevice::StartDoc(const std::string& name) {
+int RecordingDevice::StartDocument(const std::string& name) {
     if (recording_) Log("StartDoc '" + name + "' " + std::to_string(name.size()));
     return startDocResult;
 }

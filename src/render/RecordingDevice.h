@@ -44,7 +44,7 @@ public:
     GdiHandle ExtCreatePen(std::uint32_t style, std::uint32_t width, const LogBrush& brush,
                            std::span<const std::uint32_t> entries) override;
     GdiHandle CreateSolidBrush(ColorRef color) override;
-    GdiHandle CreateFontIndirect(const LogFont& font) override;
+    GdiHandle CreateLogFont(const LogFont& font) override;
     GdiHandle GetStockObject(StockObject object) override;
     GdiHandle SelectObject(GdiHandle object) override;
     bool DeleteObject(GdiHandle object) override;
@@ -73,7 +73,7 @@ public:
     void SetViewportExt(int cx, int cy) override;
     void SetWindowOrg(int x, int y) override;
 
-    int StartDoc(const std::string& name) override;
+    int StartDocument(const std::string& name) override;
     DevicePoint PrinterPoint(int escape) override;
     int GetDeviceCaps(int index) override;
     void StartPage() override;
