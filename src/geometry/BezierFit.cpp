@@ -51,6 +51,7 @@ public:
                 piece.c2 = fitted_.p2;
             }
             pieces.push_back(piece);
+            hint_ = piece.end - pos;
             pos = piece.end;
         }
         return pieces;
@@ -65,14 +66,16 @@ private:
         std::size_t good = pos + 1;
         if (good >= limit) return limit;
         std::size_t bad = limit + 1;
-        for (std::size_t step = 2;; step *= 2) {
+        // Neighbouring pieces of smooth data are of similar length: start the search there.
+        std::size_t step = std::max<std::size_t>(2, hint_);
+        for (;; step *= 2) {
             const std::size_t e = std::min(pos + step, limit);
             if (!ok(e)) {
                 bad = e;
                 break;
             }
             good = e;
-            if (e == limit) return limit;
+            if (e == limit) break;
         }
         while (bad - good > 1) {
             const std::size_t mid = good + (bad - good) / 2;
@@ -122,7 +125,7 @@ private:
             Reparameterize(from);
             const double next = Generate(from, to, t1, t2);
             if (next <= limits_.tolerance) return true;
-            if (next > error * 0.99) return false;
+            if (next > error * 0.9) return false;
             error = next;
         }
         return false;
@@ -186,6 +189,7 @@ private:
     FitLimits limits_;
     std::vector<double> u_;
     CubicBezier fitted_;
+    std::size_t hint_ = 2;
 };
 
 } // namespace

@@ -541,7 +541,7 @@ namespace {
 // original is sampled for the fit, the fewest samples taken of a curve, and the length above
 // which a straight segment is kept as it is.
 constexpr double kReduceTolerance = 2.8;
-constexpr double kSampleSpacing = 0.5;
+constexpr double kSampleSpacing = 1.0;
 constexpr std::size_t kCurveSamples = 20;
 constexpr std::size_t kMaxSamples = 32767;
 constexpr double kLongLine = 20;

@@ -333,7 +333,7 @@ TEST(PathNodes, ReduceKeepsCornersAndStraightensLines) {
 TEST(PathNodes, ReduceStaysWithinToleranceOnRandomSmoothPaths) {
     std::mt19937 random(5);
     std::uniform_real_distribution<double> amplitude(5, 60), frequency(0.005, 0.05);
-    for (int round = 0; round < 20; ++round) {
+    for (int round = 0; round < 8; ++round) {
         PathObject path;
         const double a = amplitude(random), f = frequency(random), g = frequency(random);
         for (int k = 0; k < 600; ++k) {
