@@ -23,12 +23,7 @@
 #include <string>
 #include <vector>
 
-#include <spawn.h>
 #include <unistd.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-
-extern char** environ;
 
 namespace {
 
@@ -149,18 +144,24 @@ std::size_t FormatFloor(rhomba::Document& document, std::string& out) {
     return out.size();
 }
 
-long PeakKilobytesOfLoad(const char* self, const std::string& path) {
-    pid_t child = 0;
-    std::string flag = "--load";
-    std::string file = path;
-    char* argv[] = {const_cast<char*>(self), flag.data(), file.data(), nullptr};
-    if (posix_spawn(&child, "/proc/self/exe", nullptr, nullptr, argv, environ) != 0) return -1;
-    int status = 0;
-    rusage usage{};
-    if (wait4(child, &status, 0, &usage) < 0 || !WIFEXITED(status) || WEXITSTATUS(status) != 0) {
-        return -1;
+// The high-water mark of the process's own memory (VmHWM), in kilobytes. Unlike the rusage
+// figure it belongs to the address space made at exec, so nothing of the parent is counted.
+long OwnPeakKilobytes() {
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    while (std::getline(status, line)) {
+        if (line.rfind("VmHWM:", 0) == 0) return std::strtol(line.c_str() + 6, nullptr, 10);
     }
-    return usage.ru_maxrss;
+    return -1;
+}
+
+long PeakKilobytesOfLoad(const std::string& path) {
+    const std::string command = "/proc/" + std::to_string(getpid()) + "/exe --load '" + path + "'";
+    std::FILE* child = popen(command.c_str(), "r");
+    if (child == nullptr) return -1;
+    long kilobytes = -1;
+    if (std::fscanf(child, "%ld", &kilobytes) != 1) kilobytes = -1;
+    return pclose(child) == 0 ? kilobytes : -1;
 }
 
 } // namespace
@@ -169,7 +170,9 @@ int main(int argc, char** argv) {
     QuietReporter reporter;
     if (argc == 3 && std::strcmp(argv[1], "--load") == 0) {
         rhomba::Document document;
-        return rhomba::LoadNativeFile(document, argv[2], reporter) ? 0 : 1;
+        if (!rhomba::LoadNativeFile(document, argv[2], reporter)) return 1;
+        std::printf("%ld\n", OwnPeakKilobytes());
+        return 0;
     }
     const std::size_t nodes = argc > 1 ? std::strtoul(argv[1], nullptr, 10) : 1000000;
 
@@ -198,8 +201,8 @@ int main(int argc, char** argv) {
     const double exportSvg = Time([&] { svg = rhomba::BuildSvgDocument(loaded); });
     const double svgMb = static_cast<double>(svg.size()) / 1e6;
 
-    const long peakKb = PeakKilobytesOfLoad(argv[0], path);
-    std::remove(path.c_str());
+    const long peakKb = PeakKilobytesOfLoad(path);
+    if (std::getenv("RHOMBA_BENCH_KEEP") == nullptr) std::remove(path.c_str());
 
     std::printf("drawing: %zu nodes, native file %.1f MB, SVG %.1f MB, %zu numbers\n", nodes, fileMb,
                 svgMb, numbers);
