@@ -54,6 +54,30 @@ TEST_F(TextOutlineTest, TransformComesAfterTheSizeAndBeforeThePosition) {
     EXPECT_DOUBLE_EQ(text.GetWidth(), 600);
 }
 
+TEST_F(TextOutlineTest, TransformingTheTextTransformsItsOutline) {
+    TextObject text;
+    text.SetText("A A");
+    text.SetTextSize(20);
+    text.SetTextTransform(1, 0, 0.3, 1);
+    text.SetTextPosition(40, -7);
+    text.RefreshOutline();
+    std::vector<Point2> expected;
+    Matrix2D m = Matrix2D::Rotation(30);
+    m.ThenScale(2, 0.5).ThenTranslate(11, 13);
+    for (Point2 p : text.Outline().Points()) expected.push_back(m.TransformPoint(p));
+    const Point2 end = m.TransformPoint(text.GetEndPoint());
+
+    text.Transform(m);
+    text.RefreshOutline();
+    ASSERT_EQ(text.Outline().NodeCount(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_NEAR(text.Outline().PointAt(i).x, expected[i].x, 1e-9);
+        EXPECT_NEAR(text.Outline().PointAt(i).y, expected[i].y, 1e-9);
+    }
+    EXPECT_NEAR(text.GetEndPoint().x, end.x, 1e-9);
+    EXPECT_NEAR(text.GetEndPoint().y, end.y, 1e-9);
+}
+
 TEST_F(TextOutlineTest, BlanksAdvanceAndMissingGlyphsAreSkipped) {
     TextObject text;
     text.SetText("A #A");
