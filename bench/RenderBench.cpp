@@ -29,7 +29,7 @@ void BuildDrawing(Document& document) {
         path->AddNode({x0, y0}, node::kMoveTo);
         for (int i = 1; i < kNodesPerPath; ++i) {
             // Runs of three Bezier points, then lines, so both kinds are walked.
-            const NodeType t = (i % 6 < 3) ? node::kBezierTo : node::kLineTo;
+            const NodeType t = (i % 6 >= 1 && i % 6 <= 3) ? node::kBezierTo : node::kLineTo;
             path->AddNode({x0 + i * 0.35, y0 + (i % 2) * 4}, t);
         }
         if (p % 5 == 0) path->SetDashDot({3, 1, 1, 1, 0, 0, 0, 0});

@@ -4,6 +4,9 @@
 #include "export/SvgWriter.h"
 #include "format/NativeReader.h"
 #include "model/Document.h"
+#ifdef _WIN32
+#include "win32/EmfFileWriter.h"
+#endif
 
 #include <cctype>
 #include <ostream>
@@ -29,6 +32,9 @@ constexpr const char* kUsage =
     "       rhomba-cli info IN\n"
     "       rhomba-cli apply IN|- OUT STEP...\n"
     "OUT ending in .svg is written as SVG, .rhomba as a native drawing.\n"
+#ifdef _WIN32
+    "OUT ending in .emf is written as an enhanced metafile.\n"
+#endif
     "Each STEP is one argument, a keyword and its words:\n";
 
 int Usage(std::ostream& err) {
@@ -57,7 +63,11 @@ const Step* FindStep(std::string_view argument, std::string_view& rest) {
 }
 
 int Convert(const std::string& in, const std::string& out, std::ostream& err) {
-    if (!EndsWith(out, ".svg") && !EndsWith(out, ".rhomba")) {
+    bool known = EndsWith(out, ".svg") || EndsWith(out, ".rhomba");
+#ifdef _WIN32
+    known = known || EndsWith(out, ".emf");
+#endif
+    if (!known) {
         err << "rhomba-cli: " << out << ": the output must end in .svg or .rhomba\n";
         return Usage(err);
     }
@@ -108,6 +118,9 @@ int Apply(const std::vector<std::string>& args, std::ostream& err) {
 
 bool SaveByExtension(Document& document, const std::string& path, Reporter& reporter) {
     if (EndsWith(path, ".svg")) return ExportSvgFile(document, path, reporter);
+#ifdef _WIN32
+    if (EndsWith(path, ".emf")) return ExportEmfFile(document, path, reporter);
+#endif
     if (SaveNativeFile(document, path)) return true;
     reporter.Inform(path + " konnte nicht zum Schreiben ge\xF6" "ffnet werden.");
     return false;
