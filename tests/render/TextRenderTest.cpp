@@ -1,5 +1,7 @@
 #include "model/TextObject.h"
+#include "render/DrawFlags.h"
 #include "render/TextDraw.h"
+#include "text/GlyphSource.h"
 #include "RenderTestSupport.h"
 
 namespace rhomba::test {
@@ -78,6 +80,59 @@ TEST_F(TextRender, NothingForEmptyOrInvisibleTexts) {
     strokeOnly.SetStrokeColor(0x123456);
     strokeOnly.Render(device, Matrix2D{});
     EXPECT_EQ(device.CallsNamed("SetTextColor"), (Calls{"SetTextColor 0x123456"}));
+}
+
+// Every character is the same square of 500 units, drawn with straight lines.
+class SquareGlyphs : public GlyphSource {
+public:
+    SquareGlyphs() {
+        auto u16 = [&](unsigned v) {
+            glyph_.records.push_back(static_cast<std::uint8_t>(v));
+            glyph_.records.push_back(static_cast<std::uint8_t>(v >> 8));
+        };
+        auto u32 = [&](unsigned v) { u16(v & 0xFFFF); u16(v >> 16); };
+        auto point = [&](int x, int y) {
+            u16(0);
+            u16(static_cast<unsigned>(x));
+            u16(0);
+            u16(static_cast<unsigned>(y));
+        };
+        u32(44);  // header and one curve of three points
+        u32(24);  // TT_POLYGON_TYPE
+        point(0, 0);
+        u16(1);  // TT_PRIM_LINE
+        u16(3);
+        point(500, 0);
+        point(500, 500);
+        point(0, 500);
+        glyph_.cellIncrementX = 600;
+    }
+    const Glyph* GetGlyph(const GlyphFace&, char16_t) override { return &glyph_; }
+
+private:
+    Glyph glyph_;
+};
+
+TEST_F(TextRender, ScreenDrawingGoesThroughTheOutline) {
+    SquareGlyphs glyphs;
+    InstallGlyphSource(&glyphs, false);
+    TextObject text;
+    text.SetText("A");
+    text.SetTextSize(20);  // the square becomes 10 points
+    text.SetTextPosition(100, 100);
+    text.SetSelected(true);
+    text.DrawEdit(device, Matrix2D{}, 0);
+    InstallGlyphSource(nullptr);
+    const Calls polys = device.CallsNamed("PolyDraw");
+    // Only the fill: letters without stroke get no stroke pass, selected or not.
+    ASSERT_EQ(polys.size(), 1u);
+    EXPECT_EQ(polys[0].substr(0, 40), "PolyDraw 100,100:6 110,100:2 110,110:2 1");
+    EXPECT_EQ(device.CallsNamed("CreateSolidBrush"), (Calls{"CreateSolidBrush 0x000000 -> brush1"}));
+    EXPECT_EQ(device.LiveObjects(), 0u);
+
+    device.ClearCalls();
+    text.DrawEdit(device, Matrix2D{}, kDrawNodesOnly);
+    EXPECT_GE(device.CountNamed("Rectangle"), 3u);
 }
 
 } // namespace
