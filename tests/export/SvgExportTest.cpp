@@ -135,11 +135,16 @@ TEST(SvgExport, WritingToAnImpossiblePathReportsIt) {
     EXPECT_EQ(reporter.messages[0], path + " konnte nicht zum Schreiben ge\xF6" "ffnet werden.");
 }
 
-#if !defined(_WIN32)
 bool HaveTool(const char* name) {
+#if defined(_WIN32)
+    (void)name;
+    return false;
+#else
     return std::system((std::string("command -v ") + name + " >/dev/null 2>&1").c_str()) == 0;
+#endif
 }
 
+// Counted in both builds so that their test counts match; it runs where the tools exist.
 TEST(SvgExport, ExportedDrawingParsesAsXmlAndRenders) {
     if (!HaveTool("xmllint") || !HaveTool("rsvg-convert")) {
         GTEST_SKIP() << "xmllint and rsvg-convert are needed (libxml2-utils, librsvg2-bin)";
@@ -156,7 +161,6 @@ TEST(SvgExport, ExportedDrawingParsesAsXmlAndRenders) {
     EXPECT_EQ(std::system(("rsvg-convert -o '" + png + "' '" + svg + "'").c_str()), 0);
     EXPECT_GT(std::filesystem::file_size(png), 1000u);
 }
-#endif
 
 } // namespace
 } // namespace rhomba
