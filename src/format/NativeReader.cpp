@@ -352,15 +352,19 @@ void Parser::Run(std::string_view text) {
     const char* p = text.data();
     const char* const end = p + text.size();
     while (p < end) {
-        const char* newline = static_cast<const char*>(std::memchr(p, '\n', static_cast<std::size_t>(end - p)));
+        // Lines end at LF, at CR LF, or at a lone CR (texts saved by old editors).
+        const char* newline =
+            static_cast<const char*>(std::memchr(p, '\n', static_cast<std::size_t>(end - p)));
         const char* lineEnd = newline != nullptr ? newline : end;
-        const char* contentEnd = lineEnd;
-        while (contentEnd > p && contentEnd[-1] == '\r') --contentEnd;
+        if (const void* cr = std::memchr(p, '\r', static_cast<std::size_t>(lineEnd - p))) {
+            lineEnd = static_cast<const char*>(cr);
+        }
         // The current layer is fetched before every item: it makes the first layer of an empty
         // drawing.
         document_.CurrentLayer();
-        if (!Line(p, contentEnd)) break;
-        p = newline != nullptr ? newline + 1 : end;
+        if (!Line(p, lineEnd) || lineEnd == end) break;
+        p = lineEnd + 1;
+        if (p < end && lineEnd[0] == '\r' && *p == '\n') ++p;
     }
     // Selected once complete, so that a pasted group's flag reaches all of its children.
     for (GraphicObject* object : pasted_) document_.AddToSelection(object);

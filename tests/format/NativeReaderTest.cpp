@@ -143,6 +143,9 @@ TEST(NativeReader, StopsAtRhombaEndAndAtATextWithoutLineEnd) {
     Document lastLine;
     Parsed(lastLine, kHead + "M 0 0\nL 1 1\nS");
     EXPECT_EQ(lastLine.CurrentLayer().ChildCount(), 1u);
+    Document oldMac;
+    Parsed(oldMac, "Rhomba Version 1.0\rM 0 0\rL 1 1\rS\r\rM 0 0\r\nL 2 2\r\r\nF");
+    EXPECT_EQ(oldMac.CurrentLayer().ChildCount(), 2u);
 }
 
 TEST(NativeReader, GroupEndWithoutAnOpenGroupIsIgnored) {
