@@ -110,7 +110,11 @@ private:
     NativeStyle style_;
     std::vector<Group*> open_;
     int flattened_ = 0; // groups opened beyond the depth limit and not yet closed
-    std::unique_ptr<PathObject> path_;
+    // The open path's nodes gather here and go into the path in one piece at its paint letter,
+    // so a path costs one exact allocation per array instead of a series of regrowths.
+    bool pathOpen_ = false;
+    std::vector<Point2> points_;
+    std::vector<NodeType> types_;
     std::vector<GraphicObject*> pasted_;
     std::string pathName_;
     std::string textName_;
@@ -182,9 +186,12 @@ void Parser::PlaceIds(Fields& f) {
 }
 
 void Parser::EndPath(char letter) {
-    if (!path_) return;
-    std::unique_ptr<PathObject> path = std::move(path_);
-    if (path->NodeCount() < 2) return;
+    if (!pathOpen_) return;
+    pathOpen_ = false;
+    if (points_.size() < 2) return;
+    auto path = std::make_unique<PathObject>();
+    path->ReserveNodes(points_.size());
+    for (std::size_t i = 0; i < points_.size(); ++i) path->AddNode(points_[i], types_[i]);
     const bool fill = letter == 'B' || letter == 'F';
     const bool stroke = letter == 'B' || letter == 'S';
     path->SetFill(fill);
@@ -207,11 +214,16 @@ bool Parser::Line(const char* begin, const char* end) {
     case 'M':
     case 'L':
         if (keyword.size() == 1) {
-            if (keyword[0] == 'M' && !path_) path_ = std::make_unique<PathObject>();
-            if (!path_) return true;
+            if (keyword[0] == 'M' && !pathOpen_) {
+                pathOpen_ = true;
+                points_.clear();
+                types_.clear();
+            }
+            if (!pathOpen_) return true;
             const double x = f.Number();
             const double y = f.Number();
-            path_->AddNode({x, y}, keyword[0] == 'M' ? node::kMoveTo : node::kLineTo);
+            points_.push_back({x, y});
+            types_.push_back(keyword[0] == 'M' ? node::kMoveTo : node::kLineTo);
             return true;
         }
         if (keyword == "Layer") {
@@ -226,18 +238,18 @@ bool Parser::Line(const char* begin, const char* end) {
         return true;
     case 'C':
         if (keyword.size() == 1) {
-            if (!path_) return true;
+            if (!pathOpen_) return true;
             Point2 p[3];
             for (Point2& q : p) {
                 q.x = f.Number();
                 q.y = f.Number();
             }
-            for (const Point2& q : p) path_->AddNode(q, node::kBezierTo);
-        } else if (keyword == "ClosePath") {
-            if (path_ && path_->NodeCount() > 0) {
-                const std::size_t last = path_->NodeCount() - 1;
-                path_->SetType(last, static_cast<NodeType>(path_->TypeAt(last) | node::kCloseFigure));
+            for (const Point2& q : p) {
+                points_.push_back(q);
+                types_.push_back(node::kBezierTo);
             }
+        } else if (keyword == "ClosePath") {
+            if (pathOpen_ && !types_.empty()) types_.back() |= node::kCloseFigure;
         }
         return true;
     case 'B':
@@ -351,6 +363,9 @@ bool Parser::Line(const char* begin, const char* end) {
 void Parser::Run(std::string_view text) {
     const char* p = text.data();
     const char* const end = p + text.size();
+    // Fetching the current layer makes the first layer of an empty drawing; later items fetch it
+    // again where they are inserted, so once before the first line is enough.
+    document_.CurrentLayer();
     while (p < end) {
         // Lines end at LF, at CR LF, or at a lone CR (texts saved by old editors).
         const char* newline =
@@ -359,9 +374,6 @@ void Parser::Run(std::string_view text) {
         if (const void* cr = std::memchr(p, '\r', static_cast<std::size_t>(lineEnd - p))) {
             lineEnd = static_cast<const char*>(cr);
         }
-        // The current layer is fetched before every item: it makes the first layer of an empty
-        // drawing.
-        document_.CurrentLayer();
         if (!Line(p, lineEnd) || lineEnd == end) break;
         p = lineEnd + 1;
         if (p < end && lineEnd[0] == '\r' && *p == '\n') ++p;
@@ -401,22 +413,22 @@ bool LoadNativeFile(Document& document, const std::string& path, Reporter& repor
     }
     document.Reset();
 
-    std::string text;
-    try {
-        text.resize(static_cast<std::size_t>(length));
-    } catch (const std::exception&) {
+    // Note: new without zero-filling; the whole buffer is read over at once.
+    std::unique_ptr<char[]> buffer(new (std::nothrow) char[static_cast<std::size_t>(length) + 1]);
+    if (!buffer) {
         std::fclose(file);
         reporter.Inform("Nicht gen\xFCgend Speicher (" + std::to_string(length) + " Bytes).");
         return false;
     }
-    text.resize(std::fread(text.data(), 1, text.size(), file));
+    const std::size_t got = std::fread(buffer.get(), 1, static_cast<std::size_t>(length), file);
     std::fclose(file);
+    buffer[got] = '\0';
     // The text ends at its first 0 byte, as it always has.
-    const std::size_t zero = text.find('\0');
-    if (zero != std::string::npos) text.resize(zero);
+    const std::string_view text(buffer.get(), std::strlen(buffer.get()));
 
     if (!StartsWithProductWord(text)) {
-        reporter.Inform("Es ist keine Rhomba-Datei.\r\n\r\nAnfang: " + text.substr(0, 100) + " ...");
+        reporter.Inform("Es ist keine Rhomba-Datei.\r\n\r\nAnfang: " + std::string(text.substr(0, 100)) +
+                        " ...");
         return false;
     }
     ParseNative(document, text, false);
