@@ -48,12 +48,13 @@ for preset in "${presets[@]}"; do
     fi
 done
 
-# Prints "<ctest test name> <gtest cases run>" for each test in a build's last CTest log.
+# Prints "<ctest test name> <gtest cases run>" for each test in a build's last CTest log; a test
+# that died before GoogleTest's summary counts 0.
 gtest_counts() {
     local log="$root/build/$1/Testing/Temporary/LastTest.log"
     [[ -f $log ]] || return 0
     tr -d '\r' <"$log" | awk '
-        /^[0-9]+\/[0-9]+ Test: / { name = $3 }
+        /^[0-9]+\/[0-9]+ Test: / { name = $3; count[name] += 0 }
         /^\[==========\] [0-9]+ tests? from .* ran\./ { count[name] += $2 }
         END { for (n in count) print n, count[n] }' | sort
 }
@@ -71,6 +72,11 @@ for name in "${!native[@]}"; do
         wine_total=$((wine_total + wine[$name]))
     fi
 done
+for name in "${!native[@]}"; do
+    if [[ -z ${wine[$name]:-} ]]; then
+        echo "Linux-only test $name: ${native[$name]} gtest cases"
+    fi
+done
 for name in "${!wine[@]}"; do
     if [[ -z ${native[$name]:-} ]]; then
         echo "Windows-only test $name: ${wine[$name]} gtest cases"
@@ -84,7 +90,7 @@ elif [[ $native_total -ne $wine_total ]]; then
     echo "FAIL: gtest cases run natively: $native_total, under Wine: $wine_total (they must match)"
     status=1
 else
-    echo "OK: gtest cases run natively: $native_total, under Wine: $wine_total"
+    echo "Counts match: gtest cases run natively: $native_total, under Wine: $wine_total"
 fi
 
 exit "$status"
