@@ -41,7 +41,8 @@ TEST(Matrix2D, RotationTurnsCounterClockwiseInYUpDocument) {
     EXPECT_NEAR(p.x, 6.1e-17, 1e-17);
     EXPECT_EQ(p.y, 1.0);
     // The degree divisor is the program's own constant, not pi / 180.
-    EXPECT_EQ(Matrix2D::Rotation(30).a, std::cos(30 / 57.29577951308232));
+    volatile double radians = 30 / 57.29577951308232;
+    EXPECT_EQ(Matrix2D::Rotation(30).a, std::cos(radians));
 }
 
 TEST(Matrix2D, ShearArgumentsAreFactorOfYInXThenFactorOfXInY) {
