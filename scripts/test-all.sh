@@ -93,4 +93,16 @@ else
     echo "Counts match: gtest cases run natively: $native_total, under Wine: $wine_total"
 fi
 
+# One closing line over every GoogleTest case of both builds.
+outcomes() {
+    local log="$root/build/$1/Testing/Temporary/LastTest.log"
+    [[ -f $log ]] && tr -d '\r' <"$log" | awk '
+        /^\[  PASSED  \] [0-9]+ tests?\./ { passed += $4 }
+        /^\[  FAILED  \] [0-9]+ tests?, listed below/ { failed += $4 }
+        END { print passed + 0, failed + 0 }'
+}
+read -r native_passed native_failed < <(outcomes linux || echo 0 0)
+read -r wine_passed wine_failed < <(outcomes windows || echo 0 0)
+echo "gtest: $((native_passed + wine_passed)) passed, $((native_failed + wine_failed)) failed"
+
 exit "$status"
