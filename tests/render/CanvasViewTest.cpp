@@ -1,14 +1,12 @@
 #include "model/Document.h"
 #include "render/CanvasView.h"
-#include "RenderTestSupport.h"
+#include "support/RenderTest.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace rhomba::test {
 namespace {
-
-using Calls = std::vector<std::string>;
 
 class Canvas : public RenderTest {
 protected:

@@ -1,11 +1,9 @@
-#include "RenderTestSupport.h"
+#include "support/RenderTest.h"
 
 #include <numeric>
 
 namespace rhomba::test {
 namespace {
-
-using Calls = std::vector<std::string>;
 
 TEST(DashEntries, ThreeOneAtScaleTwenty) {
     std::uint32_t e[8] = {};

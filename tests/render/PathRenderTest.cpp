@@ -1,10 +1,8 @@
 #include "render/DevicePath.h"
-#include "RenderTestSupport.h"
+#include "support/RenderTest.h"
 
 namespace rhomba::test {
 namespace {
-
-using Calls = std::vector<std::string>;
 
 const Matrix2D kTwenty{20, 0, 0, -20, 0, 0};
 

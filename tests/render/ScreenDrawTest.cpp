@@ -2,12 +2,10 @@
 #include "model/Hotspot.h"
 #include "render/DrawFlags.h"
 #include "render/NodeMarks.h"
-#include "RenderTestSupport.h"
+#include "support/RenderTest.h"
 
 namespace rhomba::test {
 namespace {
-
-using Calls = std::vector<std::string>;
 
 class ScreenDraw : public RenderTest {};
 

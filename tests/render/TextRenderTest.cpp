@@ -2,12 +2,10 @@
 #include "render/DrawFlags.h"
 #include "render/TextDraw.h"
 #include "text/GlyphSource.h"
-#include "RenderTestSupport.h"
+#include "support/RenderTest.h"
 
 namespace rhomba::test {
 namespace {
-
-using Calls = std::vector<std::string>;
 
 class TextRender : public RenderTest {
 protected:

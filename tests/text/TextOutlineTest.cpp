@@ -2,7 +2,7 @@
 
 #include "model/TextObject.h"
 #include "text/GlyphSource.h"
-#include "BoxGlyphs.h"
+#include "support/BoxGlyphs.h"
 
 #include <gtest/gtest.h>
 
@@ -12,15 +12,7 @@
 namespace rhomba {
 namespace {
 
-using testing_glyphs::BoxGlyphs;
-
-class TextOutlineTest : public testing::Test {
-protected:
-    void SetUp() override { InstallGlyphSource(&glyphs, false); }
-    void TearDown() override { InstallGlyphSource(nullptr); }
-
-    BoxGlyphs glyphs;
-};
+using TextOutlineTest = test::BoxGlyphTest;
 
 TEST_F(TextOutlineTest, SizeScalesTheThousandUnitOutlineAndBoundsFollow) {
     TextObject text;
@@ -116,18 +108,30 @@ TEST_F(TextOutlineTest, OutlineIsRebuiltOnlyWhenAFieldReallyChanges) {
     EXPECT_EQ(text.Outline().NodeCount(), 8u);
 }
 
-TEST_F(TextOutlineTest, EmptyTextHasNoOutlineAndNoBounds) {
+TEST_F(TextOutlineTest, BoundsAndHitsNeedTextAndAGlyphSource) {
     TextObject text;
     Rect2 box;
     EXPECT_FALSE(text.GetBounds(box, false));
     EXPECT_EQ(box, Rect2{});
 
     text.SetText("A");
-    ASSERT_TRUE(text.GetBounds(box, false));
+    text.SetTextSize(100);
+    text.SetTextPosition(10, 10);
+    // The box's left edge runs from (10, 10) to (10, 80).
+    EXPECT_EQ(text.HitTest({10.5, 40}, 1), &text);
+    EXPECT_EQ(text.HitTest({-40, 40}, 1), nullptr);
     text.SetText("");
     EXPECT_FALSE(text.GetBounds(box, false));
     EXPECT_EQ(text.Outline().NodeCount(), 0u);
-    EXPECT_EQ(text.HitTest({1, 1}, 5), nullptr);
+    EXPECT_EQ(text.HitTest({10.5, 40}, 5), nullptr);
+
+    // Without a source the outline waits for one.
+    InstallGlyphSource(nullptr);
+    text.SetText("A");
+    EXPECT_FALSE(text.GetBounds(box, false));
+    InstallGlyphSource(&glyphs, false);
+    EXPECT_TRUE(text.GetBounds(box, false));
+    EXPECT_EQ(text.Outline().NodeCount(), 4u);
 }
 
 TEST_F(TextOutlineTest, TextBytesReachTheSourceAsUtf16AndStopAtZero) {
@@ -141,29 +145,6 @@ TEST_F(TextOutlineTest, TextBytesReachTheSourceAsUtf16AndStopAtZero) {
     EXPECT_EQ(glyphs.faces.back().name.size(), kMaxFaceNameLength);
     EXPECT_TRUE(glyphs.faces.back().italic);
     EXPECT_EQ(Cp1252ToUtf8("\xE4\x80"), "\xC3\xA4\xE2\x82\xAC");
-}
-
-TEST_F(TextOutlineTest, HitTestAnswersWithTheText) {
-    TextObject text;
-    text.SetText("A");
-    text.SetTextSize(100);
-    text.SetTextPosition(10, 10);
-    // The box's left edge runs from (10, 10) to (10, 80).
-    EXPECT_EQ(text.HitTest({10.5, 40}, 1), &text);
-    EXPECT_EQ(text.HitTest({-40, 40}, 1), nullptr);
-}
-
-TEST_F(TextOutlineTest, WithoutASourceTheOutlineWaitsForOne) {
-    InstallGlyphSource(nullptr);
-    TextObject text;
-    text.SetText("A");
-    Rect2 box;
-    EXPECT_FALSE(text.GetBounds(box, false));
-    EXPECT_EQ(text.Outline().NodeCount(), 0u);
-
-    InstallGlyphSource(&glyphs, false);
-    EXPECT_TRUE(text.GetBounds(box, false));
-    EXPECT_EQ(text.Outline().NodeCount(), 4u);
 }
 
 TEST_F(TextOutlineTest, CacheAsksThePlatformOncePerFaceStyleAndCharacter) {

@@ -2,27 +2,20 @@
 
 #include "model/Document.h"
 #include "model/TextObject.h"
-#include "BoxGlyphs.h"
+#include "support/BoxGlyphs.h"
 
 #include <gtest/gtest.h>
 
 namespace rhomba {
 namespace {
 
-using testing_glyphs::BoxGlyphs;
-
-class TextSvgTest : public testing::Test {
+class TextSvgTest : public test::BoxGlyphTest {
 protected:
-    void SetUp() override { InstallGlyphSource(&glyphs, false); }
-    void TearDown() override { InstallGlyphSource(nullptr); }
-
     std::string Export(TextObject& text, int depth = 1) {
         SvgWriter out;
         text.ExportSvg(out, {1, 0, 0, -1, 0, 100}, depth);
         return out.Take();
     }
-
-    BoxGlyphs glyphs;
 };
 
 TEST_F(TextSvgTest, ElementCarriesPlaceTurnScaleStyleAndEscapedText) {

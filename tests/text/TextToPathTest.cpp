@@ -2,7 +2,7 @@
 
 #include "model/Document.h"
 #include "model/TextObject.h"
-#include "BoxGlyphs.h"
+#include "support/BoxGlyphs.h"
 
 #include <gtest/gtest.h>
 
@@ -11,13 +11,8 @@
 namespace rhomba {
 namespace {
 
-using testing_glyphs::BoxGlyphs;
-
-class TextToPathTest : public testing::Test {
+class TextToPathTest : public test::BoxGlyphTest {
 protected:
-    void SetUp() override { InstallGlyphSource(&glyphs, false); }
-    void TearDown() override { InstallGlyphSource(nullptr); }
-
     TextObject* AddText(const std::string& content) {
         auto text = std::make_unique<TextObject>();
         text->SetText(content);
@@ -30,7 +25,6 @@ protected:
         return static_cast<PathObject*>(document.AddObject(std::move(path)));
     }
 
-    BoxGlyphs glyphs;
     Document document;
 };
 

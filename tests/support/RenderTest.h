@@ -1,12 +1,11 @@
 #pragma once
 
-#include "model/PathObject.h"
 #include "render/DeviceCache.h"
 #include "render/RecordingDevice.h"
+#include "support/Paths.h"
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,15 +20,7 @@ protected:
     RecordingDevice device;
 };
 
-// A closed axis-aligned square with its lower left corner at (x, y).
-inline std::unique_ptr<PathObject> Square(double x, double y, double side) {
-    auto path = std::make_unique<PathObject>();
-    path->AddNode({x, y}, node::kMoveTo);
-    path->AddNode({x + side, y}, node::kLineTo);
-    path->AddNode({x + side, y + side}, node::kLineTo);
-    path->AddNode({x, y + side}, node::kLineTo | node::kCloseFigure);
-    return path;
-}
+using Calls = std::vector<std::string>;
 
 // The call names in order, without their arguments.
 inline std::vector<std::string> Names(const std::vector<std::string>& calls) {

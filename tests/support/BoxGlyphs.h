@@ -3,9 +3,11 @@
 #include "text/GlyphRecords.h"
 #include "text/GlyphSource.h"
 
+#include <gtest/gtest.h>
+
 #include <vector>
 
-namespace rhomba::testing_glyphs {
+namespace rhomba::test {
 
 // Every letter is a 500 x 700 box advancing 600; a blank advances 250 without a figure; '#'
 // is missing altogether. Records every request.
@@ -36,4 +38,13 @@ private:
     Glyph glyph_;
 };
 
-} // namespace rhomba::testing_glyphs
+// Installs the box glyphs, uncached, for the length of each test.
+class BoxGlyphTest : public ::testing::Test {
+protected:
+    void SetUp() override { InstallGlyphSource(&glyphs, false); }
+    void TearDown() override { InstallGlyphSource(nullptr); }
+
+    BoxGlyphs glyphs;
+};
+
+} // namespace rhomba::test
