@@ -18,9 +18,7 @@ TEST(VectorAngle, QuadrantsAndAxes) {
     EXPECT_DOUBLE_EQ(VectorAngle(-1, -1), 1.25 * kPi);
     EXPECT_DOUBLE_EQ(VectorAngle(1, -2), 2 * kPi - std::atan(2.0));
     EXPECT_DOUBLE_EQ(VectorAngle(-3, 1), kPi - std::atan(1.0 / 3));
-}
-
-TEST(VectorAngle, OddButKeptCases) {
+    // Odd but kept:
     EXPECT_EQ(VectorAngle(0, 0), 0.7853981633974483);
     EXPECT_EQ(VectorAngle(1, -0.0), 0); // a negative zero is not below zero
     EXPECT_EQ(VectorAngle(std::numeric_limits<double>::quiet_NaN(), 1), 0);
@@ -31,9 +29,7 @@ TEST(FoldHalfTurn, FoldsIntoClosedHalfTurn) {
     EXPECT_EQ(FoldHalfTurn(kPi / 2), kPi / 2);
     EXPECT_EQ(FoldHalfTurn(-kPi / 2), -kPi / 2);
     EXPECT_DOUBLE_EQ(FoldHalfTurn(-5 * kPi / 4), -kPi / 4);
-}
-
-TEST(FoldHalfTurn, NeverHangsOnAbsurdInput) {
+    // Absurd input does not hang.
     EXPECT_TRUE(std::isinf(FoldHalfTurn(std::numeric_limits<double>::infinity())));
     EXPECT_LE(std::fabs(FoldHalfTurn(1e300)), kPi / 2);
 }

@@ -8,13 +8,10 @@
 namespace rhomba {
 namespace {
 
-TEST(ParseLength, BareNumbersAreMillimetresWithDecimalComma) {
+TEST(ParseLength, UnitTableWithDecimalCommaAndMillimetresForBareNumbers) {
     EXPECT_EQ(ParseLength("12,5"), 12.5);
     EXPECT_EQ(ParseLength("  7.25  "), 7.25);
     EXPECT_EQ(ParseLength("-3"), -3);
-}
-
-TEST(ParseLength, UnitTable) {
     EXPECT_EQ(ParseLength("12,5 cm"), 125);
     EXPECT_EQ(ParseLength("2dm"), 200);
     EXPECT_EQ(ParseLength("1,5 m"), 1500);
@@ -35,13 +32,11 @@ TEST(ParseLength, ImperialUnitsGoThroughThePointFactor) {
     EXPECT_EQ(ParseLength("10 pt"), 10 / k);
 }
 
-TEST(ParseLength, UnknownOrMiscasedUnitsMeanMillimetres) {
+TEST(ParseLength, UnknownOrMiscasedUnitsMeanMillimetresAndUnreadableTextZero) {
     EXPECT_EQ(ParseLength("3 furlong"), 3);
     EXPECT_EQ(ParseLength("3 MM"), 3);
     EXPECT_EQ(ParseLength("3 CM"), 3);
-}
-
-TEST(ParseLength, UnreadableTextGivesZero) {
+    // Unreadable text gives zero.
     EXPECT_EQ(ParseLength("0 km"), 0);
     EXPECT_EQ(ParseLength("abc"), 0);
     EXPECT_EQ(ParseLength(""), 0);

@@ -7,11 +7,6 @@
 namespace rhomba {
 namespace {
 
-TEST(Matrix2D, DefaultIsIdentity) {
-    EXPECT_EQ(Matrix2D{}, (Matrix2D{1, 0, 0, 1, 0, 0}));
-    EXPECT_EQ(Matrix2D{}.TransformPoint({3, -4}), (Point2{3, -4}));
-}
-
 TEST(Matrix2D, MapsPointsAsRowVectors) {
     const Matrix2D m{2, 3, 5, 7, 11, 13};
     // x' = a x + c y + e, y' = b x + d y + f
@@ -24,16 +19,6 @@ TEST(Matrix2D, MultiplyAppliesTheFirstArgumentFirst) {
               (Point2{2, 0}));
     EXPECT_EQ(Multiply(Matrix2D::Scaling(2, 2), Matrix2D::Translation(1, 0)).TransformPoint(origin),
               (Point2{1, 0}));
-}
-
-TEST(Matrix2D, MultiplyMatchesMappingTwice) {
-    const Matrix2D a{1.5, -2, 0.25, 3, 7, -1};
-    const Matrix2D b{-0.5, 4, 2, 1.25, -3, 9};
-    const Point2 p{2.5, -1.75};
-    const Point2 twice = b.TransformPoint(a.TransformPoint(p));
-    const Point2 once = Multiply(a, b).TransformPoint(p);
-    EXPECT_DOUBLE_EQ(once.x, twice.x);
-    EXPECT_DOUBLE_EQ(once.y, twice.y);
 }
 
 TEST(Matrix2D, RotationTurnsCounterClockwiseInYUpDocument) {
@@ -66,16 +51,15 @@ TEST(Matrix2D, ThenFormsActAfterAndPreTranslateBefore) {
     EXPECT_EQ(chain, expected);
 }
 
-TEST(Matrix2D, InvertUndoesTheMapping) {
+TEST(Matrix2D, InvertUndoesTheMappingOrFailsOnAZeroDeterminant) {
     const Matrix2D m{1.5, -2, 0.25, 3, 7, -1};
     Matrix2D inverse;
     ASSERT_TRUE(Invert(m, inverse));
     const Point2 p = inverse.TransformPoint(m.TransformPoint({4, -9}));
     EXPECT_NEAR(p.x, 4, 1e-12);
     EXPECT_NEAR(p.y, -9, 1e-12);
-}
 
-TEST(Matrix2D, InvertOfSingularMatrixGivesIdentityAndFails) {
+    // A singular matrix fails and gives the identity.
     Matrix2D result{9, 9, 9, 9, 9, 9};
     EXPECT_FALSE(Invert(Matrix2D::Scaling(0, 1), result));
     EXPECT_EQ(result, Matrix2D::Identity());
