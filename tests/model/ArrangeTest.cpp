@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace rhomba {
 namespace {
 
@@ -28,57 +30,32 @@ protected:
     Document doc;
 };
 
-TEST_F(ArrangeTest, OneBackSwapsWithAnUnselectedPredecessor) {
-    Build("abcde", "d");
-    doc.Arrange(-1);
-    EXPECT_EQ(Order(), "abdce");
-    doc.Arrange(-1);
-    doc.Arrange(-1);
-    doc.Arrange(-1); // already first: nothing
-    EXPECT_EQ(Order(), "dabce");
-}
-
-TEST_F(ArrangeTest, OneBackMovesABlockWithoutSwappingItsMembers) {
-    Build("abcde", "cd");
-    doc.Arrange(-1);
-    EXPECT_EQ(Order(), "acdbe");
-}
-
-TEST_F(ArrangeTest, OneForwardWalksTheSelectionFromItsLastElement) {
-    Build("abcde", "bc");
-    doc.Arrange(1);
-    EXPECT_EQ(Order(), "adbce");
-    Build("", "");
-}
-
-TEST_F(ArrangeTest, OneForwardOnTheTopObjectDoesNothing) {
-    Build("abc", "c");
-    doc.Arrange(1);
-    EXPECT_EQ(Order(), "abc");
-}
-
-TEST_F(ArrangeTest, AdjacentSelectedObjectsNeverPassEachOther) {
-    Build("abc", "ab");
-    doc.Arrange(1);
-    EXPECT_EQ(Order(), "cab");
-    doc.Arrange(1);
-    EXPECT_EQ(Order(), "cab");
-}
-
-TEST_F(ArrangeTest, ToTheBackKeepsTheBlockOrder) {
-    Build("abcdef", "ce");
-    doc.Arrange(-111);
-    EXPECT_EQ(Order(), "ceabdf");
-    doc.Arrange(-111); // already at the back
-    EXPECT_EQ(Order(), "ceabdf");
-}
-
-TEST_F(ArrangeTest, ToTheFrontKeepsTheBlockOrder) {
-    Build("abcdef", "bd");
-    doc.Arrange(111);
-    EXPECT_EQ(Order(), "acefbd");
-    doc.Arrange(111);
-    EXPECT_EQ(Order(), "acefbd");
+TEST_F(ArrangeTest, StepsMoveTheSelectionWithoutSwappingSelectedNeighbours) {
+    const struct {
+        const char* names;
+        const char* selected;
+        std::vector<int> steps;
+        const char* order;
+    } cases[] = {
+        {"abcde", "d", {-1}, "abdce"},              // one back swaps with an unselected predecessor
+        {"abcde", "d", {-1, -1, -1, -1}, "dabce"},  // already first: nothing
+        {"abcde", "cd", {-1}, "acdbe"},             // a block moves without swapping its members
+        {"abcde", "bc", {1}, "adbce"},              // forward walks from the selection's last
+        {"abc", "c", {1}, "abc"},                   // the top object stays on top
+        {"abc", "ab", {1}, "cab"},
+        {"abc", "ab", {1, 1}, "cab"},               // adjacent selected objects never pass
+        {"abcdef", "ce", {-111}, "ceabdf"},         // to the back keeps the block order
+        {"abcdef", "ce", {-111, -111}, "ceabdf"},
+        {"abcdef", "bd", {111}, "acefbd"},          // to the front keeps the block order
+        {"abcdef", "bd", {111, 111}, "acefbd"},
+        {"abc", "b", {2}, "abc"},                   // unknown steps do nothing
+    };
+    for (const auto& c : cases) {
+        doc.Reset();
+        Build(c.names, c.selected);
+        for (int step : c.steps) doc.Arrange(step);
+        EXPECT_EQ(Order(), c.order) << c.names << " " << c.selected << " " << c.steps.size();
+    }
 }
 
 TEST_F(ArrangeTest, ObjectsStayInTheirOwnParents) {
@@ -99,12 +76,6 @@ TEST_F(ArrangeTest, ObjectsStayInTheirOwnParents) {
     EXPECT_EQ(g->ChildAt(0), yy);
 }
 
-TEST_F(ArrangeTest, UnknownStepsDoNothing) {
-    Build("abc", "b");
-    doc.Arrange(2);
-    EXPECT_EQ(Order(), "abc");
-}
-
 TEST_F(ArrangeTest, GroupingMovesTheSelectionIntoANewGroupOnTop) {
     Build("abcd", "db");
     const std::uint32_t idB = doc.FindByName("b", true)->GetId();
@@ -118,29 +89,26 @@ TEST_F(ArrangeTest, GroupingMovesTheSelectionIntoANewGroupOnTop) {
     EXPECT_EQ(group->ChildAt(1)->GetParent(), group);
     EXPECT_EQ(doc.Selection(), std::vector<GraphicObject*>{group});
     EXPECT_TRUE(group->ChildAt(0)->IsSelected());
+
+    doc.ClearSelection();
+    EXPECT_EQ(doc.GroupSelection(), nullptr); // nothing selected: nothing happens
+    EXPECT_EQ(Order(), "ac");
 }
 
 TEST_F(ArrangeTest, UngroupingAppendsTheChildrenSelected) {
     Build("abcd", "bc");
-    Group* group = doc.GroupSelection();
+    doc.GroupSelection();
     doc.CurrentLayer().MoveChild(2, 0); // the group to the back: g a d
     ASSERT_TRUE(doc.UngroupSelection());
     EXPECT_EQ(Order(), "adbc");
     ASSERT_EQ(doc.Selection().size(), 2u);
     EXPECT_EQ(doc.Selection()[0]->GetName(), "b");
     EXPECT_TRUE(doc.Selection()[1]->IsSelected());
-    (void)group;
 
     EXPECT_FALSE(doc.UngroupSelection()); // two objects selected
     doc.ClearSelection();
     doc.AddToSelection(doc.FindByName("a", true));
     EXPECT_FALSE(doc.UngroupSelection()); // not a group
-}
-
-TEST_F(ArrangeTest, GroupingNothingDoesNothing) {
-    Build("ab", "");
-    EXPECT_EQ(doc.GroupSelection(), nullptr);
-    EXPECT_EQ(Order(), "ab");
 }
 
 } // namespace

@@ -71,6 +71,9 @@ TEST(Ids, CounterStartsAfterTheDocumentAndNeverReuses) {
     EXPECT_EQ(b->GetId(), 4u);
     EXPECT_EQ(a->GetOwner(), &doc);
     EXPECT_EQ(a->GetParent(), &layer);
+    // The newest object is the only selection.
+    EXPECT_FALSE(a->IsSelected());
+    EXPECT_EQ(doc.Selection(), std::vector<GraphicObject*>{b});
 
     doc.DeleteChild(b, false);
     EXPECT_EQ(doc.AddObject(Spot(0, 1, 1, 0))->GetId(), 5u);
@@ -131,18 +134,7 @@ TEST(Layers, FirstLayerLineNamesTheAutomaticLayer) {
     EXPECT_EQ(&doc.CurrentLayer(), &second);
 }
 
-TEST(Layers, AddObjectMakesTheNewObjectTheOnlySelection) {
-    Document doc;
-    GraphicObject* a = doc.AddObject(Spot(0, 1, 1, 0));
-    GraphicObject* b = doc.AddObject(Spot(0, 1, 1, 0));
-    EXPECT_FALSE(a->IsSelected());
-    EXPECT_TRUE(b->IsSelected());
-    ASSERT_EQ(doc.Selection().size(), 1u);
-    EXPECT_EQ(doc.Selection()[0], b);
-    EXPECT_EQ(doc.CurrentLayer().ChildAt(1), b);
-}
-
-TEST(Lookup, HiddenLayersAreFoundOnlyWhenAsked) {
+TEST(Lookup, HiddenLayersOnlyWhenAskedLaterObjectsFirst) {
     Document doc;
     GraphicObject* spot = doc.AddObject(Spot(0, 1, 1, 0));
     spot->SetName("tuer");
@@ -155,10 +147,9 @@ TEST(Lookup, HiddenLayersAreFoundOnlyWhenAsked) {
     EXPECT_EQ(doc.FindById(spot->GetId(), true), spot);
     EXPECT_FALSE(doc.DeleteChild(spot, false));
     EXPECT_TRUE(doc.DeleteChild(spot, true));
-}
 
-TEST(Lookup, LaterObjectsWinAndContainersCanBeFound) {
-    Document doc;
+    // Later objects win; containers can be found.
+    doc.CurrentLayer().SetHidden(false);
     GraphicObject* first = doc.AddObject(Spot(0, 1, 1, 0));
     GraphicObject* second = doc.AddObject(Spot(0, 1, 1, 0));
     first->SetName("same");
@@ -169,7 +160,7 @@ TEST(Lookup, LaterObjectsWinAndContainersCanBeFound) {
     EXPECT_EQ(doc.FindById(999, true), nullptr);
 }
 
-TEST(Selection, SelectingAGroupSelectsEverythingInside) {
+TEST(Selection, GroupsSelectTheirInsideAndTheListAddsRemovesToggles) {
     Document doc;
     auto group = std::make_unique<Group>();
     auto inner = std::make_unique<Group>();
@@ -180,10 +171,7 @@ TEST(Selection, SelectingAGroupSelectsEverythingInside) {
     doc.ClearSelection();
     EXPECT_FALSE(deep->IsSelected());
     EXPECT_FALSE(added->IsSelected());
-}
 
-TEST(Selection, AddRemoveToggle) {
-    Document doc;
     GraphicObject* a = doc.AddObject(Spot(0, 1, 1, 0));
     GraphicObject* b = doc.AddObject(Spot(0, 1, 1, 0));
     doc.AddToSelection(a);
@@ -216,7 +204,7 @@ TEST(Selection, DeleteSelectionCopesWithAnObjectInsideASelectedGroup) {
     EXPECT_EQ(doc.CurrentLayer().ChildCount(), 1u);
 }
 
-TEST(Bounds, GroupsMergeTheirChildrenAndTheDocumentStartsEmpty) {
+TEST(Bounds, GroupsMergeChildrenTheDocumentStartsEmptyTheSelectionCountsAlone) {
     Document doc;
     Rect2 box;
     EXPECT_FALSE(doc.GetBounds(box, false));
@@ -227,24 +215,21 @@ TEST(Bounds, GroupsMergeTheirChildrenAndTheDocumentStartsEmpty) {
     doc.AddObject(std::make_unique<Group>()); // measures nothing, changes nothing
     EXPECT_TRUE(doc.GetBounds(box, true));
     EXPECT_EQ(box, (Rect2{-3, 10, 5, -6}));
-}
 
-TEST(Bounds, SelectionBoundsCoverOnlyTheSelection) {
-    Document doc;
-    doc.AddObject(Spot(100, 200, 300, 100));
+    // The selection's box covers the selection only.
     GraphicObject* a = doc.AddObject(Spot(0, 10, 5, 2));
+    doc.AddObject(Spot(100, 200, 300, 100));
     doc.AddToSelection(doc.AddObject(Spot(-3, 4, 1, -6)));
     doc.AddToSelection(a);
-    const Rect2 box = doc.SelectionBounds();
-    EXPECT_EQ(box, (Rect2{-3, 10, 5, -6}));
-    EXPECT_EQ(box.Centre(), (Point2{1, 2}));
+    EXPECT_EQ(doc.SelectionBounds(), (Rect2{-3, 10, 5, -6}));
+    EXPECT_EQ(doc.SelectionBounds().Centre(), (Point2{1, 2}));
 
     doc.ClearSelection();
     EXPECT_TRUE(doc.SelectionBounds().IsEmpty());
     EXPECT_EQ(doc.SelectionBounds().left, 987654321.1);
 }
 
-TEST(HitTesting, GroupsAnswerForThemselvesLayersForTheChild) {
+TEST(HitTesting, GroupsAnswerForThemselvesLayersForTheTopmostChild) {
     Document doc;
     auto group = std::make_unique<Group>();
     group->InsertAt(Spot(0, 10, 10, 0), &doc, 0, 0);
@@ -261,15 +246,13 @@ TEST(HitTesting, GroupsAnswerForThemselvesLayersForTheChild) {
 
     static_cast<Group*>(added)->SetHidden(true);
     EXPECT_EQ(doc.HitTest({0, 5}, 0.5), nullptr);
-}
 
-TEST(HitTesting, TopmostChildWinsWithinALayer) {
-    Document doc;
-    GraphicObject* below = doc.AddObject(Spot(0, 10, 10, 0));
-    GraphicObject* above = doc.AddObject(Spot(0, 10, 10, 0));
-    EXPECT_EQ(doc.HitTest({0, 5}, 1), above);
+    // The topmost child wins within a layer.
+    GraphicObject* below = doc.AddObject(Spot(200, 210, 210, 200));
+    GraphicObject* above = doc.AddObject(Spot(200, 210, 210, 200));
+    EXPECT_EQ(doc.HitTest({200, 205}, 0.5), above);
     doc.DeleteChild(above, false);
-    EXPECT_EQ(doc.HitTest({0, 5}, 1), below);
+    EXPECT_EQ(doc.HitTest({200, 205}, 0.5), below);
 }
 
 TEST(Transforming, ContainersHandTheMatrixToEveryChild) {
