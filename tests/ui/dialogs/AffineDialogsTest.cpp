@@ -3,54 +3,24 @@
 #include "geometry/Isometric.h"
 #include "model/Document.h"
 #include "model/PathObject.h"
-#include "model/Reporter.h"
+#include "support/DialogHarness.h"
+#include "support/Paths.h"
+#include "support/Reporters.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <string>
-#include <vector>
 
 namespace rhomba {
 namespace {
 
-class RecordingReporter : public Reporter {
-public:
-    void Inform(std::string_view message) override { messages.emplace_back(message); }
-    bool Ask(std::string_view) override { return true; }
-    std::vector<std::string> messages;
-};
-
-// A dialog on a field table that, like the platform, reports every text write back to it.
-template <typename Model>
-struct Dialog {
-    DialogMemory& memory;
-    FieldTable fields;
-    Model model{memory, fields};
-    int notifications = 0;
-
-    explicit Dialog(DialogMemory& m) : memory(m) {
-        fields.onNotify = [this](int id, int code) {
-            ++notifications;
-            model.OnCommand(id, code);
-        };
-        model.Open();
-    }
-    void Type(int id, std::string_view text) { fields.SetText(id, text); }
-};
+using test::Add;
+using test::Dialog;
+using test::ExpectNear;
+using test::RecordingReporter;
 
 PathObject* AddSquare(Document& document, double left, double bottom, double size) {
-    auto path = std::make_unique<PathObject>();
-    path->AddNode({left, bottom}, node::kMoveTo);
-    path->AddNode({left + size, bottom}, node::kLineTo);
-    path->AddNode({left + size, bottom + size}, node::kLineTo);
-    path->AddNode({left, bottom + size}, node::kLineTo);
-    return static_cast<PathObject*>(document.AddObject(std::move(path)));
-}
-
-void ExpectNear(Point2 actual, Point2 expected) {
-    EXPECT_NEAR(actual.x, expected.x, 1e-9);
-    EXPECT_NEAR(actual.y, expected.y, 1e-9);
+    return Add(document, test::Square(left, bottom, size, false));
 }
 
 TEST(AffineDialogs, EmptySelectionIsReportedBeforeOpening) {

@@ -3,24 +3,14 @@
 #include "geometry/Isometric.h"
 #include "model/Document.h"
 #include "model/PathObject.h"
+#include "support/DialogHarness.h"
 
 #include <gtest/gtest.h>
 
 namespace rhomba {
 namespace {
 
-template <typename Model>
-struct Dialog {
-    DialogMemory& memory;
-    FieldTable fields;
-    Model model{memory, fields};
-
-    explicit Dialog(DialogMemory& m) : memory(m) {
-        fields.onNotify = [this](int id, int code) { model.OnCommand(id, code); };
-        model.Open();
-    }
-    void Type(int id, std::string_view text) { fields.SetText(id, text); }
-};
+using test::Dialog;
 
 const PathObject* OnlyPath(Document& document) {
     Layer& layer = document.CurrentLayer();

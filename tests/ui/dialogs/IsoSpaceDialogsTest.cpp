@@ -3,6 +3,8 @@
 #include "geometry/Isometric.h"
 #include "model/Document.h"
 #include "model/PathObject.h"
+#include "support/DialogHarness.h"
+#include "support/Paths.h"
 
 #include <gtest/gtest.h>
 
@@ -11,29 +13,9 @@
 namespace rhomba {
 namespace {
 
-template <typename Model>
-struct Dialog {
-    DialogMemory& memory;
-    FieldTable fields;
-    Model model{memory, fields};
+using test::Dialog;
 
-    explicit Dialog(DialogMemory& m) : memory(m) {
-        fields.onNotify = [this](int id, int code) { model.OnCommand(id, code); };
-        model.Open();
-    }
-    void Type(int id, std::string_view text) { fields.SetText(id, text); }
-    void Click(const int* group, int count, int chosen) {
-        CheckRadio(fields, group, count, chosen);
-        model.OnCommand(group[chosen], kButtonClicked);
-    }
-};
-
-PathObject* AddLine(Document& document, Point2 a, Point2 b) {
-    auto path = std::make_unique<PathObject>();
-    path->AddNode(a, node::kMoveTo);
-    path->AddNode(b, node::kLineTo);
-    return static_cast<PathObject*>(document.AddObject(std::move(path)));
-}
+PathObject* AddLine(Document& document, Point2 a, Point2 b) { return test::Add(document, test::Polyline({a, b})); }
 
 TEST(CylinderDialog, OpensWithTheFoldedAngleAndThePlaneFlag) {
     DialogMemory memory;
