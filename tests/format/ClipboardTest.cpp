@@ -2,28 +2,15 @@
 #include "format/NativeWriter.h"
 #include "model/Document.h"
 #include "model/PathObject.h"
-#include "model/Reporter.h"
 #include "model/TextObject.h"
+#include "support/Reporters.h"
 
 #include <gtest/gtest.h>
-
-#include <deque>
 
 namespace rhomba {
 namespace {
 
-struct ScriptedReporter : Reporter {
-    std::deque<bool> answers;
-    std::vector<std::string> questions;
-    void Inform(std::string_view) override {}
-    bool Ask(std::string_view question) override {
-        questions.emplace_back(question);
-        if (answers.empty()) return true;
-        const bool answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-};
+using test::RecordingReporter;
 
 std::unique_ptr<PathObject> Line(double length) {
     auto path = std::make_unique<PathObject>();
@@ -62,7 +49,7 @@ TEST(Clipboard, CopyAndPasteKeepStyleAndNameAndLandInTheCurrentLayerSelected) {
     const std::string copied = CopySelectionText(doc);
     doc.NewLayer("Ziel", "EVP");
     doc.NewLayer("Ziel2", "EVP"); // still empty: renames
-    ScriptedReporter reporter;
+    RecordingReporter reporter;
     ASSERT_TRUE(PasteText(doc, {copied, false}, reporter));
     EXPECT_TRUE(reporter.questions.empty());
     ASSERT_EQ(doc.LayerCount(), 2u);
@@ -87,7 +74,7 @@ TEST(Clipboard, UnicodeNativeDataIsNarrowedOtherTextConvertedAndMarked) {
 
 TEST(Clipboard, TextImportAsksWithPreviewAndBuildsOneTextPerLine) {
     Document doc;
-    ScriptedReporter reporter;
+    RecordingReporter reporter;
     const std::string text = "erste\tZeile\r\n\r\n" + std::string(200, 'x') + "\r\n";
     ASSERT_TRUE(PasteText(doc, {text, false}, reporter));
     ASSERT_EQ(reporter.questions.size(), 1u);
@@ -116,7 +103,7 @@ TEST(Clipboard, TextImportAsksWithPreviewAndBuildsOneTextPerLine) {
 
 TEST(Clipboard, ConvertedTextIsAskedWithoutPreviewAndNoImportsNothing) {
     Document doc;
-    ScriptedReporter reporter;
+    RecordingReporter reporter;
     reporter.answers = {false};
     EXPECT_FALSE(PasteText(doc, {"Hallo", true}, reporter));
     ASSERT_EQ(reporter.questions.size(), 1u);
@@ -129,7 +116,7 @@ TEST(Clipboard, NoAfterTheFirstHundredLinesKeepsLinesZeroToNinetyNine) {
     std::string text;
     for (int i = 0; i < 250; ++i) text += (i % 7 == 3 ? std::string() : "Zeile " + std::to_string(i)) + "\n";
     Document doc;
-    ScriptedReporter reporter;
+    RecordingReporter reporter;
     reporter.answers = {true, false};
     ASSERT_TRUE(PasteText(doc, {text, false}, reporter));
     ASSERT_EQ(reporter.questions.size(), 2u);
@@ -142,7 +129,7 @@ TEST(Clipboard, NoAfterTheFirstHundredLinesKeepsLinesZeroToNinetyNine) {
     EXPECT_EQ(static_cast<TextObject&>(*group.ChildAt(group.ChildCount() - 1)).GetText(), "Zeile 99");
 
     Document all;
-    ScriptedReporter yes;
+    RecordingReporter yes;
     PasteText(all, {text, false}, yes);
     EXPECT_EQ(yes.questions.size(), 3u); // at 100 and 200
 }

@@ -3,24 +3,20 @@
 #include "model/Document.h"
 #include "model/Hotspot.h"
 #include "model/PathObject.h"
-#include "model/Reporter.h"
 #include "model/TextObject.h"
+#include "support/Reporters.h"
+#include "support/TempFile.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
 
 namespace rhomba {
 namespace {
 
-struct RecordingReporter : Reporter {
-    std::vector<std::string> messages;
-    void Inform(std::string_view message) override { messages.emplace_back(message); }
-    bool Ask(std::string_view) override { return true; }
-};
+using test::RecordingReporter;
+using test::TempFile;
 
 Document& Parsed(Document& doc, const std::string& text, bool paste = false) {
     ParseNative(doc, text, paste);
@@ -28,20 +24,6 @@ Document& Parsed(Document& doc, const std::string& text, bool paste = false) {
 }
 
 const std::string kHead = "Rhomba Version 1.0\r\n";
-
-// A file of its own in the test temp folder, removed afterwards.
-struct TempFile {
-    std::string path;
-    explicit TempFile(const std::string& name, const std::string& content = {}, bool create = true)
-        : path((std::filesystem::path(testing::TempDir()) / name).string()) {
-        if (create) std::ofstream(path, std::ios::binary) << content;
-    }
-    ~TempFile() { std::filesystem::remove(path); }
-    std::string Read() const {
-        std::ifstream in(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
-};
 
 TEST(NativeReader, ReadsStyledPathsTextsAndHotspots) {
     Document doc;
@@ -298,8 +280,7 @@ TEST(NativeFile, SavingReplacesTheTargetWholeAndLeavesNoTemporaryFile) {
 TEST(NativeFile, SavingIntoAMissingFolderFailsAndKeepsTheName) {
     Document doc;
     doc.SetFileName("alt.rhomba");
-    const std::string path =
-        (std::filesystem::path(testing::TempDir()) / "gibt-es-nicht" / "x.rhomba").string();
+    const std::string path = test::MissingFolderPath("x.rhomba");
     EXPECT_FALSE(SaveNativeFile(doc, path));
     EXPECT_EQ(doc.GetFileName(), "alt.rhomba");
 }
