@@ -2,12 +2,16 @@
 
 #include "geometry/Isometric.h"
 
+#include "support/Paths.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 namespace rhomba {
 namespace {
+
+using test::ExpectNear;
 
 constexpr double kR = 28.34653369727658;
 
@@ -18,11 +22,6 @@ CircleSettings Arc(double start, double end, bool spokes = false, bool centre = 
     s.spokes = spokes;
     s.centreMark = centre;
     return s;
-}
-
-void ExpectNear(Point2 actual, Point2 expected) {
-    EXPECT_NEAR(actual.x, expected.x, 1e-9);
-    EXPECT_NEAR(actual.y, expected.y, 1e-9);
 }
 
 TEST(CircleShape, EqualAnglesGiveAClosedCircleOfThirteenNodes) {

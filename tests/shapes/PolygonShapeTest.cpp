@@ -1,11 +1,15 @@
 #include "shapes/PolygonShape.h"
 
+#include "support/Paths.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 namespace rhomba {
 namespace {
+
+using test::ExpectNear;
 
 constexpr double kR = 28.34653369727658;
 
@@ -15,11 +19,6 @@ PolygonSettings Polygon(int corners, int first = kCornerTop) {
     s.radiusMillimetres = 10;
     s.firstCorner = first;
     return s;
-}
-
-void ExpectNear(Point2 actual, Point2 expected) {
-    EXPECT_NEAR(actual.x, expected.x, 1e-9);
-    EXPECT_NEAR(actual.y, expected.y, 1e-9);
 }
 
 TEST(PolygonShape, SquareStandingOnACorner) {

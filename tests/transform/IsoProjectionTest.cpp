@@ -2,6 +2,7 @@
 
 #include "model/Document.h"
 #include "model/PathObject.h"
+#include "support/Paths.h"
 
 #include <gtest/gtest.h>
 
@@ -10,19 +11,10 @@
 namespace rhomba {
 namespace {
 
-PathObject* AddPolygon(Document& document, std::vector<Point2> points) {
-    auto path = std::make_unique<PathObject>();
-    path->AddNode(points[0], node::kMoveTo);
-    for (std::size_t i = 1; i < points.size(); ++i) path->AddNode(points[i], node::kLineTo);
-    return static_cast<PathObject*>(document.AddObject(std::move(path)));
-}
+using test::ExpectPoints;
 
-void ExpectPoints(const PathObject& path, const std::vector<Point2>& expected, double tolerance) {
-    ASSERT_EQ(path.NodeCount(), expected.size());
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        EXPECT_NEAR(path.PointAt(i).x, expected[i].x, tolerance) << "point " << i;
-        EXPECT_NEAR(path.PointAt(i).y, expected[i].y, tolerance) << "point " << i;
-    }
+PathObject* AddPolygon(Document& document, std::vector<Point2> points) {
+    return test::Add(document, test::Polyline(points));
 }
 
 TEST(IsoProjection, FaceMatricesKeepTheirComposition) {

@@ -3,6 +3,7 @@
 #include "geometry/Isometric.h"
 #include "model/Document.h"
 #include "model/PathObject.h"
+#include "support/Paths.h"
 
 #include <gtest/gtest.h>
 
@@ -13,10 +14,7 @@ namespace rhomba {
 namespace {
 
 PathObject* AddPolyline(Document& document, std::vector<Point2> points) {
-    auto path = std::make_unique<PathObject>();
-    path->AddNode(points[0], node::kMoveTo);
-    for (std::size_t i = 1; i < points.size(); ++i) path->AddNode(points[i], node::kLineTo);
-    return static_cast<PathObject*>(document.AddObject(std::move(path)));
+    return test::Add(document, test::Polyline(points));
 }
 
 // The view worked out by hand from its three steps on the point: scale, turn about y by -45
