@@ -5,16 +5,14 @@
 namespace rhomba::test {
 namespace {
 
-TEST(DashEntries, ThreeOneAtScaleTwenty) {
+TEST(DashEntries, ThreeOneAtScaleTwentyAndNonDriftingSumsAtScreenScale) {
     std::uint32_t e[8] = {};
     ASSERT_EQ(BuildDashEntries({3, 1, 0, 0, 0, 0, 0, 0}, 2, 20.0, e), 2);
     EXPECT_EQ(e[0], 60u);
     EXPECT_EQ(e[1], 20u);
-}
 
-TEST(DashEntries, RunningSumsFollowTheExactSumsAtScreenScale) {
+    // At screen scale the running sums follow the exact sums.
     const double scale = 1.763884097222222;
-    std::uint32_t e[8] = {};
     ASSERT_EQ(BuildDashEntries({1, 1, 0, 0, 0, 0, 0, 0}, 2, scale, e), 2);
     EXPECT_EQ(e[0], 2u);
     EXPECT_EQ(e[0] + e[1], 4u);
@@ -27,10 +25,7 @@ TEST(DashEntries, RunningSumsFollowTheExactSumsAtScreenScale) {
         EXPECT_EQ(sum, static_cast<unsigned>((i + 1) * scale + 0.5)) << i;
         EXPECT_GE(e[i], 1u);
     }
-}
-
-TEST(DashEntries, TinyScaleKeepsEveryEntryVisible) {
-    std::uint32_t e[8] = {};
+    // A tiny scale keeps every entry visible.
     ASSERT_EQ(BuildDashEntries({1, 2, 3, 4, 0, 0, 0, 0}, 4, 0.1, e), 4);
     for (int i = 0; i < 4; ++i) EXPECT_EQ(e[i], 1u) << i;
 }
