@@ -2,34 +2,23 @@
 #include "export/PrintJob.h"
 #include "model/Document.h"
 #include "model/PathObject.h"
-#include "render/DeviceCache.h"
-#include "render/RecordingDevice.h"
+#include "support/RenderTest.h"
 
 #include <gtest/gtest.h>
-
-#include <memory>
 
 namespace rhomba {
 namespace {
 
-using Calls = std::vector<std::string>;
+using test::Calls;
 
-class DeviceOutput : public ::testing::Test {
+class DeviceOutput : public test::RenderTest {
 protected:
-    void SetUp() override { RestoreProcessStartDeviceState(); }
-    void TearDown() override { RestoreProcessStartDeviceState(); }
-
-    // A filled and stroked square with its lower left corner at (x, y).
-    PathObject* AddSquare(double x, double y, double side) {
-        auto path = std::make_unique<PathObject>();
-        path->AddNode({x, y}, node::kMoveTo);
-        path->AddNode({x + side, y}, node::kLineTo);
-        path->AddNode({x + side, y + side}, node::kLineTo | node::kCloseFigure);
-        return static_cast<PathObject*>(document.AddObject(std::move(path)));
+    // A closed right triangle with its lower left corner at (x, y).
+    PathObject* AddTriangle(double x, double y, double side) {
+        return test::Add(document, test::Polyline({{x, y}, {x + side, y}, {x + side, y + side}}, true));
     }
 
     Document document;
-    RecordingDevice device;
 };
 
 TEST(EmfFileName, ProposalAndCompletion) {
@@ -42,7 +31,7 @@ TEST(EmfFileName, ProposalAndCompletion) {
 }
 
 TEST_F(DeviceOutput, EmfSetUpRenderAndStockObjects) {
-    AddSquare(0, 0, 10)->SetSelected(false);
+    AddTriangle(0, 0, 10)->SetSelected(false);
     document.CurrentLayer().SetHidden(true);  // Render draws hidden layers too
     RenderEmf(device, document);
     // The first point lands on (20, 20 * y_max + 20), the one-point margin.
@@ -70,7 +59,7 @@ TEST_F(DeviceOutput, EmfMatrixFromTheBounds) {
 
 TEST_F(DeviceOutput, PrintJobSetUpAndDrawEdit) {
     document.SetFileName("Plan.rhomba");
-    AddSquare(0, 0, 1)->SetSelected(false);
+    AddTriangle(0, 0, 1)->SetSelected(false);
     device.deviceCaps = {{gdi::kHorzRes, 4800}, {gdi::kVertRes, 6600},
                          {gdi::kLogPixelsX, 600}, {gdi::kLogPixelsY, 600}};
     device.printingOffset = {100, 100};
@@ -106,7 +95,7 @@ TEST_F(DeviceOutput, ZeroResolutionIsTakenAsOne) {
 }
 
 TEST_F(DeviceOutput, AfterAnEmfExportRenderUsesExplicitSegments) {
-    AddSquare(0, 0, 1)->SetFill(false);
+    AddTriangle(0, 0, 1)->SetFill(false);
     RenderEmf(device, document);
     device.ClearCalls();
     document.Render(device, Matrix2D{});

@@ -3,22 +3,20 @@
 #include "model/Document.h"
 #include "model/Hotspot.h"
 #include "model/PathObject.h"
-#include "model/Reporter.h"
+#include "support/Paths.h"
+#include "support/Reporters.h"
+#include "support/TempFile.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 
 namespace rhomba {
 namespace {
 
-struct RecordingReporter : Reporter {
-    std::vector<std::string> messages;
-    void Inform(std::string_view message) override { messages.emplace_back(message); }
-    bool Ask(std::string_view) override { return true; }
-};
+using test::RecordingReporter;
+constexpr auto Path = test::NodePath;
 
 const std::string kPrologue =
     "<?xml version=\"1.0\"?>\r\n<!DOCTYPE svg>\r\n<svg xmlns=\"http://www.w3.org/2000/svg\"";
@@ -26,12 +24,6 @@ const std::string kDescAndScale =
     "<desc>SVG-Datei von Rhomba. Wenn SVG halb so kompliziert waere, waere es doppel so "
     "verbreitet.</desc>\r\n<g transform=\"scale(1.333333)\">\t<!-- Pixel zu Punkt skalieren, der "
     "Wert 1.333333 (96/72) kann bei Bedarf angepasst werden -->\r\n";
-
-std::unique_ptr<PathObject> Path(std::initializer_list<std::pair<Point2, NodeType>> nodes) {
-    auto path = std::make_unique<PathObject>();
-    for (const auto& [p, t] : nodes) path->AddNode(p, t);
-    return path;
-}
 
 std::string PathSvg(PathObject& path, const Matrix2D& matrix = {}) {
     SvgWriter out;
@@ -128,8 +120,7 @@ TEST(SvgExport, FileNameProposalsAndCompletion) {
 TEST(SvgExport, WritingToAnImpossiblePathReportsIt) {
     Document doc;
     RecordingReporter reporter;
-    const std::string path =
-        (std::filesystem::path(testing::TempDir()) / "fehlt" / "x.svg").string();
+    const std::string path = test::MissingFolderPath("x.svg");
     EXPECT_FALSE(ExportSvgFile(doc, path, reporter));
     ASSERT_EQ(reporter.messages.size(), 1u);
     EXPECT_EQ(reporter.messages[0], path + " konnte nicht zum Schreiben ge\xF6" "ffnet werden.");
