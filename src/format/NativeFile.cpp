@@ -3,10 +3,15 @@
 #include "model/Document.h"
 
 #include <cstdio>
-#include <filesystem>
-#include <system_error>
 
-#if !defined(_WIN32)
+#if defined(_WIN32)
+#include <io.h>
+
+// Declared here rather than taken from <windows.h>, which only the Win32 shell includes.
+extern "C" __declspec(dllimport) int __stdcall MoveFileExA(const char* existing,
+                                                           const char* replacement,
+                                                           unsigned long flags);
+#else
 #include <unistd.h>
 #endif
 
@@ -21,10 +26,22 @@ bool WriteAll(std::FILE* file, const std::string& text) {
 // Makes the bytes durable before the rename publishes them, so that a crash cannot leave the
 // new name pointing at an empty file.
 void Sync(std::FILE* file) {
-#if !defined(_WIN32)
-    ::fsync(::fileno(file));
+#if defined(_WIN32)
+    ::_commit(::_fileno(file));
 #else
-    (void)file;
+    ::fsync(::fileno(file));
+#endif
+}
+
+// Puts from in the place of to in one step. Names are Windows-1252 bytes, which the ANSI call
+// takes as they are.
+bool ReplaceFile(const std::string& from, const std::string& to) {
+#if defined(_WIN32)
+    constexpr unsigned long kReplaceExisting = 0x1;
+    constexpr unsigned long kWriteThrough = 0x8;
+    return MoveFileExA(from.c_str(), to.c_str(), kReplaceExisting | kWriteThrough) != 0;
+#else
+    return std::rename(from.c_str(), to.c_str()) == 0;
 #endif
 }
 
@@ -38,20 +55,16 @@ bool SaveNativeFile(Document& document, const std::string& path) {
         const bool written = WriteAll(file, text);
         if (written) Sync(file);
         const bool closed = std::fclose(file) == 0;
-        std::error_code error;
         if (!written || !closed) {
             // The old drawing stays untouched when the disk fills up.
-            std::filesystem::remove(temporary, error);
+            std::remove(temporary.c_str());
             return false;
         }
-        // Note: rename replaces an existing target in one step on POSIX, and on Windows the
-        // standard library does it with MoveFileExW and MOVEFILE_REPLACE_EXISTING.
-        std::filesystem::rename(temporary, path, error);
-        if (!error) {
+        if (ReplaceFile(temporary, path)) {
             document.SetFileName(path);
             return true;
         }
-        std::filesystem::remove(temporary, error);
+        std::remove(temporary.c_str());
     }
 
     // No temporary file beside the target (a folder without write access, say): write the
