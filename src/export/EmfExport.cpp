@@ -3,23 +3,9 @@
 #include "model/Document.h"
 #include "render/DeviceCache.h"
 
-#include <cctype>
-#include <string_view>
-
 namespace rhomba {
 
 namespace {
-
-bool EqualsNoCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) return false;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (std::tolower(static_cast<unsigned char>(a[i])) !=
-            std::tolower(static_cast<unsigned char>(b[i]))) {
-            return false;
-        }
-    }
-    return true;
-}
 
 void SelectStockReplacing(Device& device, StockObject object) {
     const GdiHandle old = device.SelectObject(device.GetStockObject(object));
@@ -27,27 +13,6 @@ void SelectStockReplacing(Device& device, StockObject object) {
 }
 
 } // namespace
-
-std::string ProposeEmfFileName(const std::string& documentFileName) {
-    if (documentFileName.empty()) return "Grafik.emf";
-    std::string name = documentFileName;
-    const std::size_t dot = name.rfind('.');
-    if (dot == std::string::npos) return name;
-    const std::string_view extension = std::string_view(name).substr(dot);
-    if (EqualsNoCase(extension, ".rhomba") || EqualsNoCase(extension, ".iso") ||
-        EqualsNoCase(extension, ".pad")) {
-        name.resize(dot + 1);
-        name += "emf";
-    }
-    return name;
-}
-
-std::string CompleteEmfFileName(const std::string& typedName) {
-    const std::size_t slash = typedName.find_last_of("\\/");
-    const std::size_t start = slash == std::string::npos ? 0 : slash + 1;
-    if (typedName.find('.', start) == std::string::npos) return typedName + ".emf";
-    return typedName;
-}
 
 Rect2 DocumentBoundsForDevice(Document& document) {
     Rect2 box;

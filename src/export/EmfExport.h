@@ -4,17 +4,9 @@
 #include "geometry/Rect2.h"
 #include "render/Device.h"
 
-#include <string>
-
 namespace rhomba {
 
 class Document;
-
-// The name the export proposes: the document's file name with ".rhomba", ".iso" or ".pad"
-// turned into ".emf" (any other extension stays), "Grafik.emf" when there is none.
-std::string ProposeEmfFileName(const std::string& documentFileName);
-// A chosen name without an extension after its last path separator gets ".emf".
-std::string CompleteEmfFileName(const std::string& typedName);
 
 // The document's box (x_min, y_max, x_max, y_min); all zero for an empty drawing.
 Rect2 DocumentBoundsForDevice(Document& document);

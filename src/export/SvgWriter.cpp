@@ -6,7 +6,6 @@
 #include "model/PathObject.h"
 #include "model/Reporter.h"
 
-#include <cctype>
 #include <cstdio>
 #include <vector>
 
@@ -203,42 +202,6 @@ std::string BuildSvgDocument(Document& document) {
     out.Append("</g>\r\n");
     out.Append("</svg>");
     return out.Take();
-}
-
-namespace {
-
-bool EqualsNoCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) return false;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (std::tolower(static_cast<unsigned char>(a[i])) !=
-            std::tolower(static_cast<unsigned char>(b[i]))) {
-            return false;
-        }
-    }
-    return true;
-}
-
-} // namespace
-
-std::string ProposeSvgFileName(const std::string& documentFileName) {
-    if (documentFileName.empty()) return "Grafik.svg";
-    std::string name = documentFileName;
-    const std::size_t dot = name.rfind('.');
-    if (dot == std::string::npos) return name;
-    const std::string_view extension = std::string_view(name).substr(dot);
-    if (EqualsNoCase(extension, ".rhomba") || EqualsNoCase(extension, ".iso") ||
-        EqualsNoCase(extension, ".pad")) {
-        name.resize(dot + 1);
-        name += "svg";
-    }
-    return name;
-}
-
-std::string CompleteSvgFileName(const std::string& typedName) {
-    const std::size_t slash = typedName.find_last_of("\\/");
-    const std::size_t start = slash == std::string::npos ? 0 : slash + 1;
-    if (typedName.find('.', start) == std::string::npos) return typedName + ".svg";
-    return typedName;
 }
 
 bool ExportSvgFile(Document& document, const std::string& path, Reporter& reporter) {

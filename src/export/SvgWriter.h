@@ -60,12 +60,6 @@ private:
 // The whole drawing as one SVG document.
 std::string BuildSvgDocument(Document& document);
 
-// The name the export proposes: the document's file name with ".rhomba", ".iso" or ".pad"
-// turned into ".svg" (any other extension stays), "Grafik.svg" when there is none.
-std::string ProposeSvgFileName(const std::string& documentFileName);
-// A typed name without an extension after its last path separator gets ".svg".
-std::string CompleteSvgFileName(const std::string& typedName);
-
 // Builds the document and writes it to path; on failure reports
 // "%s konnte nicht zum Schreiben ge\xF6" "ffnet werden." and returns false.
 bool ExportSvgFile(Document& document, const std::string& path, Reporter& reporter);

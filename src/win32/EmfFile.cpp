@@ -2,6 +2,7 @@
 #include "win32/EmfFileWriter.h"
 
 #include "export/EmfExport.h"
+#include "export/ExportFileName.h"
 #include "model/Document.h"
 #include "model/Reporter.h"
 #include "win32/GdiDevice.h"
@@ -32,7 +33,7 @@ bool WriteEmfFile(Document& document, const std::string& path, HWND window, Repo
 
 void ExportEmfCommand(HWND owner, Document& document, Reporter& reporter) {
     char file[261] = {};
-    const std::string proposal = ProposeEmfFileName(document.GetFileName());
+    const std::string proposal = ProposeExportFileName(document.GetFileName(), "emf");
     std::strncpy(file, proposal.c_str(), sizeof file - 1);
     static const char kFilter[] =
         "Enhanced-Metafile-Dateien *.emf\0*.emf\0Alle Dateien *.*\0*.*\0";
@@ -45,7 +46,7 @@ void ExportEmfCommand(HWND owner, Document& document, Reporter& reporter) {
     ofn.nMaxFile = sizeof file;
     ofn.Flags = 0x802;  // overwrite prompt, path must exist
     if (!::GetSaveFileNameA(&ofn)) return;
-    WriteEmfFile(document, CompleteEmfFileName(file), owner, reporter);
+    WriteEmfFile(document, CompleteExportFileName(file, "emf"), owner, reporter);
 }
 
 } // namespace rhomba

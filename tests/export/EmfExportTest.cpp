@@ -1,4 +1,5 @@
 #include "export/EmfExport.h"
+#include "export/ExportFileName.h"
 #include "export/PrintJob.h"
 #include "model/Document.h"
 #include "model/PathObject.h"
@@ -22,12 +23,13 @@ protected:
 };
 
 TEST(EmfFileName, ProposalAndCompletion) {
-    EXPECT_EQ(ProposeEmfFileName("C:\\Zeichnungen\\Plan.rhomba"), "C:\\Zeichnungen\\Plan.emf");
-    EXPECT_EQ(ProposeEmfFileName("Plan.ISO"), "Plan.emf");
-    EXPECT_EQ(ProposeEmfFileName("Plan.txt"), "Plan.txt");
-    EXPECT_EQ(ProposeEmfFileName(""), "Grafik.emf");
-    EXPECT_EQ(CompleteEmfFileName("C:\\a.b\\Plan"), "C:\\a.b\\Plan.emf");
-    EXPECT_EQ(CompleteEmfFileName("Plan.wmf"), "Plan.wmf");
+    EXPECT_EQ(ProposeExportFileName("C:\\Zeichnungen\\Plan.rhomba", "emf"),
+              "C:\\Zeichnungen\\Plan.emf");
+    EXPECT_EQ(ProposeExportFileName("Plan.ISO", "emf"), "Plan.emf");
+    EXPECT_EQ(ProposeExportFileName("Plan.txt", "emf"), "Plan.txt");
+    EXPECT_EQ(ProposeExportFileName("", "emf"), "Grafik.emf");
+    EXPECT_EQ(CompleteExportFileName("C:\\a.b\\Plan", "emf"), "C:\\a.b\\Plan.emf");
+    EXPECT_EQ(CompleteExportFileName("Plan.wmf", "emf"), "Plan.wmf");
 }
 
 TEST_F(DeviceOutput, EmfSetUpRenderAndStockObjects) {

@@ -1,3 +1,4 @@
+#include "export/ExportFileName.h"
 #include "export/SvgWriter.h"
 #include "format/NativeReader.h"
 #include "model/Document.h"
@@ -107,14 +108,15 @@ TEST(SvgExport, GroupsAndLayersAreWrappedWithUniqueIdsAndIndentationStopsAtTwent
 }
 
 TEST(SvgExport, FileNameProposalsAndCompletion) {
-    EXPECT_EQ(ProposeSvgFileName(""), "Grafik.svg");
-    EXPECT_EQ(ProposeSvgFileName("C:\\Zeichnungen\\Plan.rhomba"), "C:\\Zeichnungen\\Plan.svg");
-    EXPECT_EQ(ProposeSvgFileName("Plan.ISO"), "Plan.svg");
-    EXPECT_EQ(ProposeSvgFileName("Plan.Pad"), "Plan.svg");
-    EXPECT_EQ(ProposeSvgFileName("Plan.txt"), "Plan.txt");
-    EXPECT_EQ(CompleteSvgFileName("Plan"), "Plan.svg");
-    EXPECT_EQ(CompleteSvgFileName("C:\\a.b\\Plan"), "C:\\a.b\\Plan.svg");
-    EXPECT_EQ(CompleteSvgFileName("Plan.txt"), "Plan.txt");
+    EXPECT_EQ(ProposeExportFileName("", "svg"), "Grafik.svg");
+    EXPECT_EQ(ProposeExportFileName("C:\\Zeichnungen\\Plan.rhomba", "svg"),
+              "C:\\Zeichnungen\\Plan.svg");
+    EXPECT_EQ(ProposeExportFileName("Plan.ISO", "svg"), "Plan.svg");
+    EXPECT_EQ(ProposeExportFileName("Plan.Pad", "svg"), "Plan.svg");
+    EXPECT_EQ(ProposeExportFileName("Plan.txt", "svg"), "Plan.txt");
+    EXPECT_EQ(CompleteExportFileName("Plan", "svg"), "Plan.svg");
+    EXPECT_EQ(CompleteExportFileName("C:\\a.b\\Plan", "svg"), "C:\\a.b\\Plan.svg");
+    EXPECT_EQ(CompleteExportFileName("Plan.txt", "svg"), "Plan.txt");
 }
 
 TEST(SvgExport, WritingToAnImpossiblePathReportsIt) {
