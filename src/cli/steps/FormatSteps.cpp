@@ -1,12 +1,11 @@
 // The apply steps of the document, selection, clipboard and property commands.
-#include "cli/Step.h"
+#include "cli/steps/StepWords.h"
 #include "format/Clipboard.h"
 #include "geometry/NumberText.h"
 #include "model/Document.h"
 #include "model/Reporter.h"
 #include "ui/PropertyCommands.h"
 
-#include <charconv>
 #include <deque>
 #include <fstream>
 #include <iterator>
@@ -15,18 +14,6 @@
 namespace rhomba::cli {
 
 namespace {
-
-bool ParseInt(std::string_view text, long long& value) {
-    text = Trim(text);
-    if (text.empty()) return false;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    return result.ec == std::errc{} && result.ptr == text.data() + text.size();
-}
-
-bool Tell(StepContext& context, std::string_view message) {
-    context.reporter.Inform(message);
-    return false;
-}
 
 // Selection as the editor's tools leave it: layers and the document are never selected.
 void Select(StepContext& context, GraphicObject* object, std::string_view what) {
@@ -56,8 +43,8 @@ bool RunSelect(StepContext& context, std::string_view rest) {
     }
     if (rest.substr(0, 3) == "id ") {
         long long id = 0;
-        if (!ParseInt(rest.substr(3), id) || id < 0 || id > 0xFFFFFFFFll) {
-            return Tell(context, "rhomba-cli: select id needs a number");
+        if (!ReadWhole(Trim(rest.substr(3)), id) || id < 0 || id > 0xFFFFFFFFll) {
+            return Tell(context, "select id needs a number");
         }
         Select(context, document.FindById(static_cast<std::uint32_t>(id), true),
                "#" + std::to_string(id));
@@ -68,7 +55,7 @@ bool RunSelect(StepContext& context, std::string_view rest) {
         Select(context, document.FindByName(name, true), "named \"" + name + "\"");
         return true;
     }
-    return Tell(context, "rhomba-cli: select needs all, id N or name NAME");
+    return Tell(context, "select needs all, id N or name NAME");
 }
 
 bool RunDeselect(StepContext& context, std::string_view) {
@@ -94,21 +81,21 @@ bool RunDelete(StepContext& context, std::string_view) {
 
 bool RunArrange(StepContext& context, std::string_view rest) {
     long long step = 0;
-    if (!ParseInt(rest, step) || (step != -1 && step != -111 && step != 1 && step != 111)) {
-        return Tell(context, "rhomba-cli: arrange takes -1, -111, 1 or 111");
+    if (!ReadWhole(Trim(rest), step) || (step != -1 && step != -111 && step != 1 && step != 111)) {
+        return Tell(context, "arrange takes -1, -111, 1 or 111");
     }
     context.document.Arrange(static_cast<int>(step));
     return true;
 }
 
 bool RunProp(StepContext& context, std::string_view rest) {
-    if (Trim(rest).empty()) return Tell(context, "rhomba-cli: prop needs a command line");
+    if (Trim(rest).empty()) return Tell(context, "prop needs a command line");
     ApplyCommand(context.document, rest, true, nullptr);
     return true;
 }
 
 bool RunCopy(StepContext& context, std::string_view rest) {
-    if (rest.empty()) return Tell(context, "rhomba-cli: copy needs a file name");
+    if (rest.empty()) return Tell(context, "copy needs a file name");
     const std::string text = CopySelectionText(context.document);
     if (text.empty()) return true; // like the clipboard, the file stays as it was
     std::ofstream file{std::string(rest), std::ios::binary};
@@ -167,9 +154,9 @@ bool RunPaste(StepContext& context, std::string_view rest) {
     if (blank != std::string_view::npos && ParseAnswers(rest.substr(blank + 1), answers)) {
         path = rest.substr(0, blank);
     }
-    if (path.empty()) return Tell(context, "rhomba-cli: paste needs a file name");
+    if (path.empty()) return Tell(context, "paste needs a file name");
     std::ifstream file{std::string(path), std::ios::binary};
-    if (!file) return Tell(context, "rhomba-cli: cannot read " + std::string(path));
+    if (!file) return Tell(context, "cannot read " + std::string(path));
     ClipboardText text;
     text.bytes.assign(std::istreambuf_iterator<char>(file), {});
     ScriptedAnswers reporter(context.reporter, std::move(answers));

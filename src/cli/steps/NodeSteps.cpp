@@ -1,47 +1,17 @@
 // The apply steps of node editing and of combining paths.
-#include "cli/Step.h"
-#include "geometry/NumberText.h"
+#include "cli/steps/StepWords.h"
 #include "model/Combine.h"
 #include "model/Document.h"
 #include "model/PathNodes.h"
 #include "model/PathObject.h"
 #include "model/Reporter.h"
 
-#include <charconv>
 #include <string>
 #include <vector>
 
 namespace rhomba::cli {
 
 namespace {
-
-bool Tell(StepContext& context, std::string_view message) {
-    context.reporter.Inform(message);
-    return false;
-}
-
-std::vector<std::string_view> Words(std::string_view text) {
-    std::vector<std::string_view> words;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        while (i < text.size() && (text[i] == ' ' || text[i] == '\t')) ++i;
-        const std::size_t start = i;
-        while (i < text.size() && text[i] != ' ' && text[i] != '\t') ++i;
-        if (i > start) words.push_back(text.substr(start, i - start));
-    }
-    return words;
-}
-
-bool ParseIndex(std::string_view word, unsigned long long& value) {
-    const auto result = std::from_chars(word.data(), word.data() + word.size(), value);
-    return result.ec == std::errc{} && result.ptr == word.data() + word.size();
-}
-
-bool ParseNumber(std::string_view word, double& value) {
-    std::size_t end = 0;
-    value = ReadLeadingNumber(word, end);
-    return end != 0 && end == word.size();
-}
 
 // The path the node menu acts on: the first selected object, when it is a path.
 PathObject* NodePath(StepContext& context) {
@@ -66,19 +36,19 @@ bool Grayed(StepContext& context, std::string_view entry) {
 bool RunNodes(StepContext& context, std::string_view rest) {
     const std::vector<std::string_view> words = Words(rest);
     unsigned long long id = 0;
-    if (words.empty() || !ParseIndex(words[0], id) || id > 0xFFFFFFFFull) {
-        return Tell(context, "rhomba-cli: nodes needs a path id and node indices");
+    if (words.empty() || !ReadWhole(words[0], id) || id > 0xFFFFFFFFull) {
+        return Tell(context, "nodes needs a path id and node indices");
     }
     GraphicObject* object = context.document.FindById(static_cast<std::uint32_t>(id), true);
     if (object == nullptr || object->GetKind() != ObjectKind::Path) {
-        return Tell(context, "rhomba-cli: #" + std::to_string(id) + " is not a path");
+        return Tell(context, "#" + std::to_string(id) + " is not a path");
     }
     auto* path = static_cast<PathObject*>(object);
     std::vector<std::size_t> chosen;
     for (std::size_t w = 1; w < words.size(); ++w) {
         unsigned long long index = 0;
-        if (!ParseIndex(words[w], index) || index >= path->NodeCount()) {
-            return Tell(context, "rhomba-cli: no node " + std::string(words[w]) + " in #" + std::to_string(id));
+        if (!ReadWhole(words[w], index) || index >= path->NodeCount()) {
+            return Tell(context, "no node " + std::string(words[w]) + " in #" + std::to_string(id));
         }
         chosen.push_back(static_cast<std::size_t>(index));
     }
@@ -93,19 +63,19 @@ bool RunNodes(StepContext& context, std::string_view rest) {
 
 bool RunNode(StepContext& context, std::string_view rest) {
     const std::vector<std::string_view> words = Words(rest);
-    if (words.empty()) return Tell(context, "rhomba-cli: node needs an operation");
+    if (words.empty()) return Tell(context, "node needs an operation");
     const std::string_view op = words[0];
     const bool known = op == "add" || op == "join-line" || op == "join-intersection" || op == "delete" ||
                        op == "split" || op == "to-curve" || op == "to-line" || op == "reduce";
-    if (!known) return Tell(context, "rhomba-cli: unknown node operation " + std::string(op));
+    if (!known) return Tell(context, "unknown node operation " + std::string(op));
 
     double x = 0, y = 0;
     unsigned long long index = 0;
-    if (op == "add" && (words.size() != 3 || !ParseNumber(words[1], x) || !ParseNumber(words[2], y))) {
-        return Tell(context, "rhomba-cli: node add needs X Y in points");
+    if (op == "add" && (words.size() != 3 || !ReadDecimal(words[1], x) || !ReadDecimal(words[2], y))) {
+        return Tell(context, "node add needs X Y in points");
     }
-    if ((op == "to-curve" || op == "to-line") && (words.size() != 2 || !ParseIndex(words[1], index))) {
-        return Tell(context, "rhomba-cli: node " + std::string(op) + " needs a node index");
+    if ((op == "to-curve" || op == "to-line") && (words.size() != 2 || !ReadWhole(words[1], index))) {
+        return Tell(context, "node " + std::string(op) + " needs a node index");
     }
 
     PathObject* path = NodePath(context);

@@ -1,62 +1,15 @@
 // The apply steps of the isometric projections and the transformation dialogs. The typed values
 // go through the dialog models exactly as if typed into the fields before OK.
-#include "cli/Step.h"
+#include "cli/steps/StepWords.h"
 #include "model/Document.h"
-#include "model/Reporter.h"
 #include "transform/IsoProjection.h"
 #include "ui/dialogs/AffineDialogs.h"
+#include "ui/dialogs/FieldDialog.h"
 #include "ui/dialogs/IsoSpaceDialogs.h"
-
-#include <string>
-#include <vector>
 
 namespace rhomba::cli {
 
 namespace {
-
-std::vector<std::string_view> Words(std::string_view text) {
-    std::vector<std::string_view> words;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        while (i < text.size() && text[i] == ' ') ++i;
-        const std::size_t start = i;
-        while (i < text.size() && text[i] != ' ') ++i;
-        if (i > start) words.push_back(text.substr(start, i - start));
-    }
-    return words;
-}
-
-bool Tell(StepContext& context, std::string_view message) {
-    context.reporter.Inform("rhomba-cli: " + std::string(message));
-    return false;
-}
-
-bool ReadFlag(std::string_view word, bool& flag) {
-    if (word != "0" && word != "1") return false;
-    flag = word == "1";
-    return true;
-}
-
-// A dialog on in-memory fields that report each write back to the model, as the platform does.
-template <typename Model>
-struct Dialog {
-    FieldTable fields;
-    Model model{RunMemory(), fields};
-
-    Dialog() {
-        fields.onNotify = [this](int id, int code) { model.OnCommand(id, code); };
-        model.Open();
-    }
-    void Type(int id, std::string_view text) { fields.SetText(id, text); }
-    void Click(const int* group, int count, int chosen) {
-        CheckRadio(fields, group, count, chosen);
-        model.OnCommand(group[chosen], kButtonClicked);
-    }
-    void Check(int id, bool on) {
-        fields.SetChecked(id, on);
-        model.OnCommand(id, kButtonClicked);
-    }
-};
 
 bool RunIso(StepContext& context, std::string_view rest) {
     static const struct {
@@ -79,15 +32,12 @@ bool RunIso(StepContext& context, std::string_view rest) {
 
 bool RunRotate(StepContext& context, std::string_view rest) {
     const auto words = Words(rest);
-    if (words.size() != 2 || (words[1] != "cw" && words[1] != "ccw")) {
-        return Tell(context, "rotate needs ANGLE cw|ccw");
-    }
+    const int direction = words.size() == 2 ? IndexOf(words[1], {"cw", "ccw"}) : -1;
+    if (direction < 0) return Tell(context, "rotate needs ANGLE cw|ccw");
     if (!RequireSelection(context.document, context.reporter)) return true;
-    Dialog<RotateDialogModel> d;
+    FieldDialog<RotateDialogModel> d;
     d.Type(RotateDialogModel::kAngle, words[0]);
-    const bool ccw = words[1] == "ccw";
-    d.fields.SetChecked(RotateDialogModel::kClockwise, !ccw);
-    d.fields.SetChecked(RotateDialogModel::kCounterClockwise, ccw);
+    d.Click(RotateDialogModel::kDirections, 2, direction);
     d.model.Ok(context.document);
     return true;
 }
@@ -96,7 +46,7 @@ bool RunStretch(StepContext& context, std::string_view rest) {
     const auto words = Words(rest);
     if (words.size() != 2) return Tell(context, "stretch needs X Y in percent");
     if (!RequireSelection(context.document, context.reporter)) return true;
-    Dialog<StretchDialogModel> d;
+    FieldDialog<StretchDialogModel> d;
     // "beide Achsen gleich" would copy the second value over the first; it stays checked only
     // when the two are typed alike.
     d.Check(StretchDialogModel::kBothAxes, words[0] == words[1]);
@@ -110,7 +60,7 @@ bool RunShear(StepContext& context, std::string_view rest) {
     const auto words = Words(rest);
     if (words.size() != 2) return Tell(context, "shear needs XDEG YDEG");
     if (!RequireSelection(context.document, context.reporter)) return true;
-    Dialog<ShearDialogModel> d;
+    FieldDialog<ShearDialogModel> d;
     d.Type(ShearDialogModel::kXDegrees, words[0]);
     d.Type(ShearDialogModel::kYDegrees, words[1]);
     d.model.Ok(context.document);
@@ -121,7 +71,7 @@ bool RunMove(StepContext& context, std::string_view rest) {
     const auto words = Words(rest);
     if (words.size() != 2) return Tell(context, "move needs XMM YMM");
     if (!RequireSelection(context.document, context.reporter)) return true;
-    Dialog<MoveDialogModel> d;
+    FieldDialog<MoveDialogModel> d;
     d.Type(MoveDialogModel::kX, words[0]);
     d.Type(MoveDialogModel::kY, words[1]);
     d.model.Ok(context.document);
@@ -135,20 +85,11 @@ bool RunCylinder(StepContext& context, std::string_view rest) {
         return Tell(context, "cylinder needs ANGLE 0|1");
     }
     if (!RequireSelection(context.document, context.reporter)) return true;
-    Dialog<CylinderDialogModel> d;
+    FieldDialog<CylinderDialogModel> d;
     d.Type(CylinderDialogModel::kAngle, words[0]);
     d.Check(CylinderDialogModel::kForeshorten, foreshorten);
     d.model.Ok(context.document);
     return true;
-}
-
-int IndexOf(std::string_view word, std::initializer_list<std::string_view> names) {
-    int i = 0;
-    for (std::string_view name : names) {
-        if (word == name) return i;
-        ++i;
-    }
-    return -1;
 }
 
 bool RunPlane(StepContext& context, std::string_view rest) {
@@ -165,7 +106,7 @@ bool RunPlane(StepContext& context, std::string_view rest) {
     }
     if (first == second) return Tell(context, "plane: the two axes must differ");
     if (!RequireSelection(context.document, context.reporter)) return true;
-    Dialog<PlaneDialogModel> d;
+    FieldDialog<PlaneDialogModel> d;
     d.Click(PlaneDialogModel::kPlanes, 4, plane);
     d.Click(PlaneDialogModel::kFirstAxes, 3, first);
     d.Click(PlaneDialogModel::kSecondAxes, 3, second);

@@ -10,6 +10,7 @@ public:
     static constexpr int kAngle = 1046;
     static constexpr int kClockwise = 1047;
     static constexpr int kCounterClockwise = 1048;
+    static constexpr int kDirections[2] = {kClockwise, kCounterClockwise};
 
     using DialogModel::DialogModel;
     void Open() override;

@@ -71,6 +71,7 @@ public:
     static constexpr int kGrowth = 1081;
     static constexpr int kArchimedean = 1082;
     static constexpr int kLogarithmic = 1083;
+    static constexpr int kKinds[2] = {kArchimedean, kLogarithmic};
 
     using DialogModel::DialogModel;
     void Open() override;

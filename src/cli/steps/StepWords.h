@@ -1,0 +1,32 @@
+#pragma once
+
+#include "cli/Step.h"
+
+#include <charconv>
+#include <initializer_list>
+#include <string_view>
+#include <vector>
+
+namespace rhomba::cli {
+
+// The words of a step's rest, split at blanks and tabs.
+std::vector<std::string_view> Words(std::string_view text);
+
+// Reports "rhomba-cli: <message>" and returns false, the result of a step whose words are not
+// usable.
+bool Tell(StepContext& context, std::string_view message);
+
+// "0" or "1" into flag; false (flag untouched) for anything else.
+bool ReadFlag(std::string_view word, bool& flag);
+// A whole number in decimal digits filling the word; false otherwise.
+template <typename Integer>
+bool ReadWhole(std::string_view word, Integer& value) {
+    const auto result = std::from_chars(word.data(), word.data() + word.size(), value);
+    return result.ec == std::errc{} && result.ptr == word.data() + word.size();
+}
+// A decimal number filling the word; false (value untouched) otherwise.
+bool ReadDecimal(std::string_view word, double& value);
+// The position of word among names, -1 when it is none of them.
+int IndexOf(std::string_view word, std::initializer_list<std::string_view> names);
+
+} // namespace rhomba::cli
