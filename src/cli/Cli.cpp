@@ -122,7 +122,7 @@ bool SaveByExtension(Document& document, const std::string& path, Reporter& repo
     if (EndsWith(path, ".emf")) return ExportEmfFile(document, path, reporter);
 #endif
     if (SaveNativeFile(document, path)) return true;
-    reporter.Inform(path + " konnte nicht zum Schreiben ge\xF6" "ffnet werden.");
+    InformCannotWrite(reporter, path);
     return false;
 }
 

@@ -207,7 +207,7 @@ std::string BuildSvgDocument(Document& document) {
 bool ExportSvgFile(Document& document, const std::string& path, Reporter& reporter) {
     std::FILE* file = std::fopen(path.c_str(), "wb");
     if (file == nullptr) {
-        reporter.Inform(path + " konnte nicht zum Schreiben ge\xF6" "ffnet werden.");
+        InformCannotWrite(reporter, path);
         return false;
     }
     const std::string text = BuildSvgDocument(document);

@@ -60,8 +60,8 @@ private:
 // The whole drawing as one SVG document.
 std::string BuildSvgDocument(Document& document);
 
-// Builds the document and writes it to path; on failure reports
-// "%s konnte nicht zum Schreiben ge\xF6" "ffnet werden." and returns false.
+// Builds the document and writes it to path; on failure informs the reporter
+// (InformCannotWrite) and returns false.
 bool ExportSvgFile(Document& document, const std::string& path, Reporter& reporter);
 
 } // namespace rhomba

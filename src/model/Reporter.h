@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace rhomba {
@@ -14,5 +15,10 @@ public:
     // A question answered with yes (true) or no (false).
     virtual bool Ask(std::string_view question) = 0;
 };
+
+// The message of every file that cannot be written.
+inline void InformCannotWrite(Reporter& reporter, std::string_view path) {
+    reporter.Inform(std::string(path) + " konnte nicht zum Schreiben ge\xF6" "ffnet werden.");
+}
 
 } // namespace rhomba

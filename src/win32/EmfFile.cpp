@@ -19,7 +19,7 @@ bool WriteEmfFile(Document& document, const std::string& path, HWND window, Repo
     HDC metafile = ::CreateEnhMetaFileA(reference, path.c_str(), nullptr, "Rhomba\0\0");
     bool written = false;
     if (metafile == nullptr) {
-        reporter.Inform(path + " konnte nicht zum Schreiben ge\xF6" "ffnet werden.");
+        InformCannotWrite(reporter, path);
     } else {
         GdiDevice device(metafile);
         RenderEmf(device, document);

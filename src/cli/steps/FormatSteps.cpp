@@ -101,7 +101,7 @@ bool RunCopy(StepContext& context, std::string_view rest) {
     std::ofstream file{std::string(rest), std::ios::binary};
     file << text;
     if (!file.flush()) {
-        context.reporter.Inform(std::string(rest) + " konnte nicht zum Schreiben ge\xF6" "ffnet werden.");
+        InformCannotWrite(context.reporter, rest);
     }
     return true;
 }
