@@ -2,38 +2,20 @@
 
 namespace rhomba::cli {
 
-namespace {
-
-using StepList = const std::vector<Step>& (*)();
-
-std::vector<StepList>& Lists() {
-    static std::vector<StepList> lists;
-    return lists;
-}
-
-struct Registration {
-    explicit Registration(StepList list) { Lists().push_back(list); }
-};
-
-} // namespace
-
-// One line per concern, in the order their steps are looked up.
-#define RHOMBA_CONCERN_STEPS(name)     \
-    const std::vector<Step>& name();   \
-    static const Registration name##Registration { &name }
-
-RHOMBA_CONCERN_STEPS(FormatSteps);
-RHOMBA_CONCERN_STEPS(TransformSteps);
-RHOMBA_CONCERN_STEPS(ShapeSteps);
-RHOMBA_CONCERN_STEPS(TextSteps);
-RHOMBA_CONCERN_STEPS(NodeSteps);
+// Each concern's steps, from its own file under steps/.
+const std::vector<Step>& FormatSteps();
+const std::vector<Step>& TransformSteps();
+const std::vector<Step>& ShapeSteps();
+const std::vector<Step>& TextSteps();
+const std::vector<Step>& NodeSteps();
 
 const std::vector<Step>& AllSteps() {
     static const std::vector<Step> all = [] {
         std::vector<Step> steps;
-        for (StepList list : Lists()) {
-            const std::vector<Step>& more = list();
-            steps.insert(steps.end(), more.begin(), more.end());
+        // In the order the keywords are looked up.
+        for (const std::vector<Step>* more :
+             {&FormatSteps(), &TransformSteps(), &ShapeSteps(), &TextSteps(), &NodeSteps()}) {
+            steps.insert(steps.end(), more->begin(), more->end());
         }
         return steps;
     }();
