@@ -5,15 +5,6 @@
 
 namespace rhomba {
 
-namespace {
-
-void SelectStockReplacing(Device& device, StockObject object) {
-    const GdiHandle old = device.SelectObject(device.GetStockObject(object));
-    if (old != 0) device.DeleteObject(old);
-}
-
-} // namespace
-
 Rect2 DocumentBoundsForDevice(Document& document) {
     Rect2 box;
     // An empty drawing keeps the empty-box marker; its offsets would be absurd, so it is taken
@@ -44,9 +35,9 @@ void RenderEmf(Device& metafile, Document& document) {
 
     document.Render(metafile, EmfViewMatrix(bounds));
 
-    SelectStockReplacing(metafile, StockObject::BlackPen);
-    SelectStockReplacing(metafile, StockObject::WhiteBrush);
-    SelectStockReplacing(metafile, StockObject::AnsiFixedFont);
+    SelectReplacing(metafile, metafile.GetStockObject(StockObject::BlackPen));
+    SelectReplacing(metafile, metafile.GetStockObject(StockObject::WhiteBrush));
+    SelectReplacing(metafile, metafile.GetStockObject(StockObject::AnsiFixedFont));
 }
 
 } // namespace rhomba

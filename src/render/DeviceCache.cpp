@@ -3,7 +3,7 @@
 #include "render/DevicePath.h"
 
 #include <algorithm>
-#include <cstring>
+#include <tuple>
 
 namespace rhomba {
 
@@ -14,20 +14,19 @@ PathOutputMode g_mode = PathOutputMode::PolyDraw;
 
 constexpr double kLogicalPerPoint = 20.0;
 
-void SplitDashWords(const DashDot& dash, std::uint32_t& low, std::uint32_t& high) {
-    low = static_cast<std::uint32_t>(dash[0]) | static_cast<std::uint32_t>(dash[1]) << 8 |
-          static_cast<std::uint32_t>(dash[2]) << 16 | static_cast<std::uint32_t>(dash[3]) << 24;
-    high = static_cast<std::uint32_t>(dash[4]) | static_cast<std::uint32_t>(dash[5]) << 8 |
-           static_cast<std::uint32_t>(dash[6]) << 16 | static_cast<std::uint32_t>(dash[7]) << 24;
+// Four pattern bytes from first on as one word, the first in the low byte.
+std::uint32_t DashWord(const DashDot& dash, std::size_t first) {
+    std::uint32_t word = 0;
+    for (std::size_t i = 4; i-- > 0;) word = word << 8 | dash[first + i];
+    return word;
 }
 
-// Selects object and deletes whatever it replaced: the cache keeps values, never handles.
+} // namespace
+
 void SelectReplacing(Device& device, GdiHandle object) {
     const GdiHandle old = device.SelectObject(object);
     if (old != 0) device.DeleteObject(old);
 }
-
-} // namespace
 
 DeviceCache& TheDeviceCache() { return g_cache; }
 
@@ -58,17 +57,14 @@ void SelectDevicePen(Device& device, ColorRef color, double penWidth, const Dash
                      int dashCount) {
     const auto width = static_cast<std::uint32_t>(DeviceRound(penWidth * kLogicalPerPoint));
     const auto count = static_cast<std::uint32_t>(dashCount);
-    std::uint32_t low = 0, high = 0;
-    SplitDashWords(dash, low, high);
+    const std::uint32_t low = DashWord(dash, 0), high = DashWord(dash, 4);
+    // A solid pen matches whatever pattern the cached one had.
     if (color == g_cache.penColor && width == g_cache.penWidth && count == g_cache.dashCount &&
         (count == 0 || (low == g_cache.dashLow && high == g_cache.dashHigh))) {
         return;
     }
-    g_cache.penColor = color;
-    g_cache.penWidth = width;
-    g_cache.dashCount = count;
-    g_cache.dashLow = low;
-    g_cache.dashHigh = high;
+    std::tie(g_cache.penColor, g_cache.penWidth, g_cache.dashCount, g_cache.dashLow,
+             g_cache.dashHigh) = std::tuple(color, width, count, low, high);
     const GdiHandle pen =
         count == 0 ? device.CreatePen(gdi::kPsSolid, static_cast<int>(width), color)
                    : CreateDashPen(device, static_cast<int>(width), color, dashCount, dash,
@@ -93,15 +89,11 @@ void SelectDeviceFont(Device& device, const std::string& face, double size, int 
     const std::string& name = face.empty() ? std::string("Arial") : face;
     const std::int32_t height = DeviceRound(size * kLogicalPerPoint);
     const double escapementValue = escapement;
-    if (name == g_cache.fontFace && height == g_cache.fontHeight && bold == g_cache.fontBold &&
-        italic == g_cache.fontItalic && escapementValue == g_cache.fontEscapement) {
-        return;
-    }
-    g_cache.fontFace = name;
-    g_cache.fontHeight = height;
-    g_cache.fontBold = bold;
-    g_cache.fontItalic = italic;
-    g_cache.fontEscapement = escapementValue;
+    auto cached = std::tie(g_cache.fontFace, g_cache.fontHeight, g_cache.fontBold,
+                           g_cache.fontItalic, g_cache.fontEscapement);
+    const auto wanted = std::tie(name, height, bold, italic, escapementValue);
+    if (cached == wanted) return;
+    cached = wanted;
 
     LogFont font;
     font.height = -height;

@@ -46,6 +46,9 @@ void SetPathOutputMode(PathOutputMode mode);
 // Back to the all-zero cache and PolyDraw mode of a fresh process; for tests and benchmarks.
 void RestoreProcessStartDeviceState();
 
+// Selects object and deletes whatever it replaced: the cache keeps values, never handles.
+void SelectReplacing(Device& device, GdiHandle object);
+
 // Device pass helpers; widths and dash lengths in points, 20 logical units per point.
 void SelectDevicePen(Device& device, ColorRef color, double penWidth, const DashDot& dash,
                      int dashCount);
