@@ -88,7 +88,7 @@ void GraphicObject::CopyStyleFrom(const GraphicObject& other) {
     SetFill(other.HasFill());
 }
 
-void GraphicObject::WrapCylinder(CylinderWrapParams&) {}
-void GraphicObject::RotateIsoPlane(PlaneRotationParams&) {}
+void GraphicObject::WrapCylinder(const CylinderWrapParams&) {}
+void GraphicObject::RotateIsoPlane(const PlaneRotationParams&) {}
 
 } // namespace rhomba

@@ -93,8 +93,8 @@ public:
     // Name, stroke colour and switch, pen width, dash, fill colour and switch, through the
     // getters of other and the setters of this object.
     /* 45 */ virtual void CopyStyleFrom(const GraphicObject& other);
-    /* 46 */ virtual void WrapCylinder(CylinderWrapParams& params);
-    /* 47 */ virtual void RotateIsoPlane(PlaneRotationParams& params);
+    /* 46 */ virtual void WrapCylinder(const CylinderWrapParams& params);
+    /* 47 */ virtual void RotateIsoPlane(const PlaneRotationParams& params);
 
     std::uint32_t GetId() const { return id_; }
     std::uint32_t GetFlags() const { return flags_; }

@@ -110,11 +110,11 @@ void Group::Transform(const Matrix2D& matrix) {
     for (auto& child : children_) child->Transform(matrix);
 }
 
-void Group::WrapCylinder(CylinderWrapParams& params) {
+void Group::WrapCylinder(const CylinderWrapParams& params) {
     for (auto& child : children_) child->WrapCylinder(params);
 }
 
-void Group::RotateIsoPlane(PlaneRotationParams& params) {
+void Group::RotateIsoPlane(const PlaneRotationParams& params) {
     for (auto& child : children_) child->RotateIsoPlane(params);
 }
 

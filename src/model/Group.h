@@ -38,8 +38,8 @@ public:
     // The group itself when any child is hit, children asked from the top down.
     GraphicObject* HitTest(Point2 probe, double tolerance) override;
     void Transform(const Matrix2D& matrix) override;
-    void WrapCylinder(CylinderWrapParams& params) override;
-    void RotateIsoPlane(PlaneRotationParams& params) override;
+    void WrapCylinder(const CylinderWrapParams& params) override;
+    void RotateIsoPlane(const PlaneRotationParams& params) override;
 
     // Takes a child out without deleting it; null when it is not a child of this group.
     std::unique_ptr<GraphicObject> Detach(const GraphicObject* child);

@@ -56,8 +56,8 @@ public:
 
     bool AppendFrom(const GraphicObject& other) override;
     std::unique_ptr<GraphicObject> SplitOff() override;
-    void WrapCylinder(CylinderWrapParams& params) override;
-    void RotateIsoPlane(PlaneRotationParams& params) override;
+    void WrapCylinder(const CylinderWrapParams& params) override;
+    void RotateIsoPlane(const PlaneRotationParams& params) override;
 
     std::size_t NodeCount() const { return points_.size(); }
     const std::vector<Point2>& Points() const { return points_; }

@@ -72,39 +72,30 @@ double CutToWhole(double value) {
     return std::trunc(value + 0.5) + 0.0;
 }
 
-void PathObject::WrapCylinder(CylinderWrapParams& params) {
+void PathObject::WrapCylinder(const CylinderWrapParams& params) {
     const double width = params.bounds.right - params.bounds.left;
     // Note: a selection without width has no circumference to wrap onto; it stays as it is
     // rather than turning into points that are not numbers.
     if (!(width != 0) || !std::isfinite(width)) return;
     const double radius = (width / 2) / kPi;
     const Matrix3D view = IsoViewMatrix(params.foreshorten);
-
-    params.points = points_.data();
-    params.count = points_.size();
-    for (std::size_t i = 0; i < params.count; ++i) {
-        Point2& p = params.points[i];
-        const double u = p.x - params.cx;
-        const double v = p.y - params.cy;
+    const Point2 c = params.bounds.Centre();
+    for (Point2& p : points_) {
+        const double u = p.x - c.x;
+        const double v = p.y - c.y;
         const double theta = (u / width) * kPi * 2 + params.phase;
-        p = ToPlane(view, radius * std::cos(theta), v, -radius * std::sin(theta), params.cx,
-                    params.cy);
+        p = ToPlane(view, radius * std::cos(theta), v, -radius * std::sin(theta), c.x, c.y);
     }
-    params.points = nullptr;
-    params.count = 0;
 }
 
-void PathObject::RotateIsoPlane(PlaneRotationParams& params) {
+void PathObject::RotateIsoPlane(const PlaneRotationParams& params) {
     const double w = params.bounds.right - params.bounds.left;
     const double h = params.bounds.top - params.bounds.bottom;
     const Matrix3D m = PlaneRotationMatrix(params);
-
-    params.points = points_.data();
-    params.count = points_.size();
-    for (std::size_t i = 0; i < params.count; ++i) {
-        Point2& p = params.points[i];
-        const double u = p.x - params.cx;
-        const double v = p.y - params.cy;
+    const Point2 c = params.bounds.Centre();
+    for (Point2& p : points_) {
+        const double u = p.x - c.x;
+        const double v = p.y - c.y;
         // Note: the planes other than XY are set back by the box's width or height (W - u, not
         // -u); that moves them in the view, and drawings made so depend on it.
         double x = 0, y = 0, z = 0;
@@ -115,34 +106,20 @@ void PathObject::RotateIsoPlane(PlaneRotationParams& params) {
         case kPlaneXZ: x = u; z = h - v; break;
         default: x = u; y = v; break;
         }
-        p = ToPlane(m, x, y, z, params.cx, params.cy);
+        p = ToPlane(m, x, y, z, c.x, c.y);
     }
-    params.points = nullptr;
-    params.count = 0;
 }
 
 void WrapSelectionOnCylinder(Document& document, double phase, bool foreshorten) {
     OnSelectionAsOne(document, [&](GraphicObject& object, const Rect2& box) {
-        CylinderWrapParams params;
-        params.bounds = box;
-        const Point2 centre = box.Centre();
-        params.cx = centre.x;
-        params.cy = centre.y;
-        params.phase = phase;
-        params.foreshorten = foreshorten;
-        object.WrapCylinder(params);
+        object.WrapCylinder({box, phase, foreshorten});
     });
 }
 
 void RotateSelectionInPlane(Document& document, const PlaneRotationParams& settings) {
     OnSelectionAsOne(document, [&](GraphicObject& object, const Rect2& box) {
         PlaneRotationParams params = settings;
-        params.points = nullptr;
-        params.count = 0;
         params.bounds = box;
-        const Point2 centre = box.Centre();
-        params.cx = centre.x;
-        params.cy = centre.y;
         object.RotateIsoPlane(params);
     });
 }

@@ -4,8 +4,6 @@
 #include "geometry/Point2.h"
 #include "geometry/Rect2.h"
 
-#include <cstddef>
-
 namespace rhomba {
 
 class Document;
@@ -18,14 +16,9 @@ inline constexpr double kIsoViewScale = 1.2247389813954697;
 // Tilt of the view about the x axis: the angle whose tangent is 1 / sqrt 2, in degrees.
 inline constexpr double kIsoViewTiltDegrees = 35.264389683156;
 
-// What WrapCylinder hands down the tree. points and count are filled in by each path for its own
-// points while it maps them; the rest describes the whole selection.
+// What WrapCylinder hands down the tree: the box of the whole selection and the turn.
 struct CylinderWrapParams {
-    Point2* points = nullptr;
-    std::size_t count = 0;
     Rect2 bounds;
-    double cx = 0;
-    double cy = 0;
     double phase = 0; // radians
     bool foreshorten = false;
 };
@@ -36,13 +29,9 @@ enum IsoPlane : int { kPlaneXY = 0, kPlaneZY = 1, kPlaneZX = 2, kPlaneXZ = 3 };
 // The rotation axes: 0 X, 1 Y, 2 Z.
 enum IsoAxis : int { kAxisX = 0, kAxisY = 1, kAxisZ = 2 };
 
-// What RotateIsoPlane hands down the tree; points and count as in CylinderWrapParams.
+// What RotateIsoPlane hands down the tree: the box of the whole selection and the turns.
 struct PlaneRotationParams {
-    Point2* points = nullptr;
-    std::size_t count = 0;
     Rect2 bounds;
-    double cx = 0;
-    double cy = 0;
     int plane = kPlaneXY;
     int firstAxis = kAxisX;
     double firstAngle = 0; // degrees
@@ -67,8 +56,8 @@ double CutToWhole(double value);
 // objects are grouped for the wrap and the group is dissolved again afterwards.
 void WrapSelectionOnCylinder(Document& document, double phase, bool foreshorten);
 
-// Turns the selection as a plane of space; the same grouping as the cylinder wrap. Only plane,
-// axes, angles and foreshorten of params are used; the rest is filled in here.
+// Turns the selection as a plane of space; the same grouping as the cylinder wrap. The bounds
+// of settings are not used; they are filled in here.
 void RotateSelectionInPlane(Document& document, const PlaneRotationParams& settings);
 
 } // namespace rhomba
