@@ -50,6 +50,21 @@ std::optional<std::size_t> SegmentNode(const PathObject& path, std::size_t index
     return last;
 }
 
+// The segment "In Kurve" or "In Linie" works on for the node index, when it is of that kind.
+std::optional<PathSegment> ConvertibleSegment(const PathObject& path, std::size_t index,
+                                              SegmentKind kind) {
+    const auto at = SegmentNode(path, index);
+    if (!at) return std::nullopt;
+    const auto segment = SegmentEndingAt(path, *at);
+    if (!segment || segment->kind != kind) return std::nullopt;
+    return segment;
+}
+
+// A converted segment's end node takes the new kind and keeps only its selection and closing.
+void SetSegmentKind(PathObject& path, std::size_t at, NodeType kind) {
+    path.SetType(at, static_cast<NodeType>((path.TypeAt(at) & (kSelected | kCloseFigure)) | kind));
+}
+
 // Reverses an open figure so that it traces the same outline backwards: every node takes the
 // kind of the node that followed it, the old last node becomes the move.
 void ReverseFigure(NodeRun& run) {
@@ -273,27 +288,23 @@ NodeMenuState NodeMenuRules(const GraphicObject* first) {
 }
 
 bool ConvertToCurve(PathObject& path, std::size_t index) {
-    const auto at = SegmentNode(path, index);
-    if (!at) return false;
-    const auto segment = SegmentEndingAt(path, *at);
-    if (!segment || segment->kind != SegmentKind::Line) return false;
+    const auto segment = ConvertibleSegment(path, index, SegmentKind::Line);
+    if (!segment) return false;
+    const std::size_t at = segment->EndIndex();
     const Point2 p0 = segment->start, p1 = segment->End();
     const Point2 c1{p0.x + (p1.x - p0.x) * 0.33333, p0.y + (p1.y - p0.y) * 0.33333};
     const Point2 c2{p0.x + (p1.x - p0.x) * 0.66666, p0.y + (p1.y - p0.y) * 0.66666};
-    const NodeType t = path.TypeAt(*at);
-    path.SetType(*at, static_cast<NodeType>((t & (kSelected | kCloseFigure)) | node::kBezierTo));
-    path.InsertNodes(*at, NodeRun{{c1, c2}, {node::kBezierTo, node::kBezierTo}});
+    SetSegmentKind(path, at, node::kBezierTo);
+    path.InsertNodes(at, NodeRun{{c1, c2}, {node::kBezierTo, node::kBezierTo}});
     return true;
 }
 
 bool ConvertToLine(PathObject& path, std::size_t index) {
-    const auto at = SegmentNode(path, index);
-    if (!at) return false;
-    const auto segment = SegmentEndingAt(path, *at);
-    if (!segment || segment->kind != SegmentKind::Bezier) return false;
-    const NodeType t = path.TypeAt(*at);
-    path.SetType(*at, static_cast<NodeType>((t & (kSelected | kCloseFigure)) | node::kLineTo));
-    path.CutNodes(*at - 2, 2);
+    const auto segment = ConvertibleSegment(path, index, SegmentKind::Bezier);
+    if (!segment) return false;
+    const std::size_t at = segment->EndIndex();
+    SetSegmentKind(path, at, node::kLineTo);
+    path.CutNodes(at - 2, 2);
     return true;
 }
 
