@@ -1,7 +1,6 @@
 // The repaint of a 100,000-node drawing painted by GDI into an off-screen bitmap: the time is
 // reported (it measures Wine and this machine, not a limit), the picture is checked.
-#include "model/Document.h"
-#include "model/PathObject.h"
+#include "../../bench/ZigzagDrawing.h"
 #include "render/CanvasView.h"
 #include "render/DeviceCache.h"
 #include "win32/GdiDevice.h"
@@ -11,33 +10,15 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <memory>
 #include <vector>
 
 namespace rhomba {
 namespace {
 
-// The drawing of bench/RenderBench.cpp: 1000 paths of 100 nodes, lines and curves.
-void BuildDrawing(Document& document) {
-    for (int p = 0; p < 1000; ++p) {
-        auto path = std::make_unique<PathObject>();
-        const double y0 = 20 + (p % 80) * 10, x0 = 20 + (p / 80) * 40;
-        path->AddNode({x0, y0}, node::kMoveTo);
-        for (int i = 1; i < 100; ++i) {
-            const NodeType t = (i % 6 >= 1 && i % 6 <= 3) ? node::kBezierTo : node::kLineTo;
-            path->AddNode({x0 + i * 0.35, y0 + (i % 2) * 4}, t);
-        }
-        if (p % 5 == 0) path->SetDashDot({3, 1, 1, 1, 0, 0, 0, 0});
-        path->SetPenWidth(0.5 + (p % 3) * 0.25);
-        document.AddObject(std::move(path));
-    }
-    document.ClearSelection();
-}
-
 TEST(RenderSpeed, HundredThousandNodesThroughGdi) {
     constexpr int kWidth = 1280, kHeight = 1024;
     Document document;
-    BuildDrawing(document);
+    bench::BuildZigzagDrawing(document);
     CanvasView view(document);
     view.SetClientSize(kWidth, kHeight);
     view.SetZoom(1, 0, 0);
