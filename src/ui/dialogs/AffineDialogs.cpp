@@ -11,18 +11,6 @@ namespace rhomba {
 
 namespace {
 
-// Raises a re-entrancy counter for the lifetime of a write into a coupled field.
-class Writing {
-public:
-    explicit Writing(int& counter) : counter_(counter) { ++counter_; }
-    ~Writing() { --counter_; }
-    Writing(const Writing&) = delete;
-    Writing& operator=(const Writing&) = delete;
-
-private:
-    int& counter_;
-};
-
 // A typed percentage of the stretch: within +-1000, and never so small that the selection
 // collapses; the sign is kept.
 double AcceptedPercent(double percent) {
@@ -56,11 +44,10 @@ bool RotateDialogModel::Ok(Document& document) {
 }
 
 void StretchDialogModel::Open() {
-    writing_ = 0;
     const StretchMemory& m = memory_.stretch;
     // Note: the lower bound on opening is one, not minus one thousand; a mirrored stretch is
     // accepted by OK but shown as 1 the next time.
-    Writing guard(writing_);
+    Writing guard(*this);
     fields_.SetText(kX, ShowNumber(Clamp(m.xPercent, 1, 1000)));
     fields_.SetText(kY, ShowNumber(Clamp(m.yPercent, 1, 1000)));
     fields_.SetChecked(kBothAxes, m.bothAxes);
@@ -68,11 +55,11 @@ void StretchDialogModel::Open() {
 
 void StretchDialogModel::OnCommand(int id, int code) {
     if (code != kEditChange || (id != kX && id != kY)) return;
-    if (writing_ != 0 || !fields_.IsChecked(kBothAxes)) return;
+    if (IsWriting() || !fields_.IsChecked(kBothAxes)) return;
     const double value = Clamp(ReadNumber(fields_.GetText(id)), -1000, 1000);
     // A field being emptied or started with "0," is not copied, so the partner keeps its value.
     if (std::fabs(value) <= 0.001) return;
-    Writing guard(writing_);
+    Writing guard(*this);
     fields_.SetText(id == kX ? kY : kX, ShowNumber(value));
 }
 
@@ -88,11 +75,10 @@ bool StretchDialogModel::Ok(Document& document) {
 }
 
 void ShearDialogModel::Open() {
-    writing_ = 0;
     const ShearMemory& m = memory_.shear;
     const double x = Clamp(m.xDegrees, -80, 80);
     const double y = Clamp(m.yDegrees, -80, 80);
-    Writing guard(writing_);
+    Writing guard(*this);
     fields_.SetText(kXDegrees, ShowNumber(x));
     fields_.SetText(kYDegrees, ShowNumber(y));
     fields_.SetText(kXPercent, ShowNumber(ShearPercent(x)));
@@ -100,7 +86,7 @@ void ShearDialogModel::Open() {
 }
 
 void ShearDialogModel::OnCommand(int id, int code) {
-    if (code != kEditChange || writing_ != 0) return;
+    if (code != kEditChange || IsWriting()) return;
     int partner = 0;
     double value = 0;
     switch (id) {
@@ -122,7 +108,7 @@ void ShearDialogModel::OnCommand(int id, int code) {
         break;
     default: return;
     }
-    Writing guard(writing_);
+    Writing guard(*this);
     fields_.SetText(partner, ShowNumber(value));
 }
 

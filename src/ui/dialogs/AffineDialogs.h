@@ -29,9 +29,6 @@ public:
     // While "beide Achsen gleich" is checked, a typed percentage is copied into the other field.
     void OnCommand(int id, int code) override;
     bool Ok(Document& document) override;
-
-private:
-    int writing_ = 0;
 };
 
 // "Scheren" (dialog 162): shears the selection about its box centre; each angle field has a
@@ -47,9 +44,6 @@ public:
     void Open() override;
     void OnCommand(int id, int code) override;
     bool Ok(Document& document) override;
-
-private:
-    int writing_ = 0;
 };
 
 // "Verschieben" (dialog 164): moves the selection by millimetres.

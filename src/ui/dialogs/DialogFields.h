@@ -58,13 +58,6 @@ private:
     std::map<int, bool> enabled_;
 };
 
-// Typing into a field: sets its text and delivers the change to the model.
-template <typename Model>
-void TypeInto(FieldTable& fields, Model& model, int id, std::string_view text) {
-    fields.SetText(id, text);
-    model.OnCommand(id, kEditChange);
-}
-
 // A number as a dialog field shows it: "%g" with every "." turned into ",".
 std::string ShowNumber(double value);
 // "%g mm" with a decimal comma.

@@ -84,8 +84,25 @@ public:
     virtual bool Ok(Document& document) = 0;
 
 protected:
+    // Held while the model writes a coupled field itself, so that the change notice of that write
+    // is not taken for typing.
+    class Writing {
+    public:
+        explicit Writing(DialogModel& model) : model_(model) { ++model_.writing_; }
+        ~Writing() { --model_.writing_; }
+        Writing(const Writing&) = delete;
+        Writing& operator=(const Writing&) = delete;
+
+    private:
+        DialogModel& model_;
+    };
+    bool IsWriting() const { return writing_ != 0; }
+
     DialogMemory& memory_;
     DialogFields& fields_;
+
+private:
+    int writing_ = 0;
 };
 
 // Checks the one button of a radio group and clears the others, as clicking it does.

@@ -9,24 +9,22 @@
 namespace rhomba {
 
 void CylinderDialogModel::Open() {
-    writing_ = 1;
+    Writing guard(*this);
     CylinderMemory& m = memory_.cylinder;
     m.phase = FoldHalfTurn(m.phase);
     fields_.SetText(kAngle, ShowNumber(m.phase * kDegreesPerRadian));
     fields_.SetChecked(kForeshorten, memory_.plane.foreshorten);
-    writing_ = 0;
 }
 
 void CylinderDialogModel::OnCommand(int id, int) {
-    if (id != kAngle || writing_ != 0) return;
-    ++writing_;
+    if (id != kAngle || IsWriting()) return;
+    Writing guard(*this);
     const double degrees = ReadNumber(fields_.GetText(kAngle));
     if (degrees < -360) {
         fields_.SetText(kAngle, "-360");
     } else if (degrees > 360) {
         fields_.SetText(kAngle, "360");
     }
-    --writing_;
 }
 
 bool CylinderDialogModel::Ok(Document& document) {

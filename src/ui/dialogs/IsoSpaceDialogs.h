@@ -16,9 +16,6 @@ public:
     // Any notification of the angle field puts a value beyond +-360 back to the limit.
     void OnCommand(int id, int code) override;
     bool Ok(Document& document) override;
-
-private:
-    int writing_ = 0;
 };
 
 // "Ebene im Iso-Raum drehen" (dialog 169): turns the selection as a plane of space.
