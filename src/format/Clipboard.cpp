@@ -4,6 +4,7 @@
 #include "format/NativeWriter.h"
 #include "model/Document.h"
 #include "model/Reporter.h"
+#include "model/Windows1252.h"
 
 #include <cstdio>
 
@@ -16,35 +17,6 @@ std::string CopySelectionText(Document& document) {
     for (GraphicObject* object : document.Selection()) object->SaveNative(writer, false);
     writer.Trailer();
     return writer.Take();
-}
-
-std::string ToWindows1252(std::u16string_view text) {
-    // The code page's 0x80 to 0x9F row; 0 marks its five holes.
-    static constexpr char16_t kHighRow[32] = {
-        0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-        0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
-        0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
-    std::string out;
-    out.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char16_t c = text[i];
-        if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
-            out.push_back(static_cast<char>(c));
-            continue;
-        }
-        char mapped = '?';
-        for (int k = 0; k < 32; ++k) {
-            if (kHighRow[k] != 0 && kHighRow[k] == c) mapped = static_cast<char>(0x80 + k);
-        }
-        // A surrogate pair is one character: one "?" for both halves.
-        if (c >= 0xD800 && c <= 0xDBFF && i + 1 < text.size() && text[i + 1] >= 0xDC00 &&
-            text[i + 1] <= 0xDFFF) {
-            ++i;
-        }
-        out.push_back(mapped);
-    }
-    return out;
 }
 
 ClipboardText FromUnicodeClipboard(std::u16string_view text) {

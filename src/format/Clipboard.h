@@ -24,9 +24,6 @@ struct ClipboardText {
 // anything else is converted to Windows-1252 and marked as converted.
 ClipboardText FromUnicodeClipboard(std::u16string_view text);
 
-// UTF-16 to Windows-1252; characters without a place in the code page become "?".
-std::string ToWindows1252(std::u16string_view text);
-
 // "Einfuegen": native text is parsed into the current layer and selected; any other text is
 // offered as a group of text objects, one per line, after asking through reporter. Returns
 // true when something was parsed into the drawing.

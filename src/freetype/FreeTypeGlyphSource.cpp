@@ -1,7 +1,7 @@
 #include "freetype/FreeTypeGlyphSource.h"
 
+#include "model/Windows1252.h"
 #include "text/GlyphRecords.h"
-#include "text/TextOutline.h"
 
 #include <fontconfig/fontconfig.h>
 #include <ft2build.h>

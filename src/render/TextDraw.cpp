@@ -1,10 +1,10 @@
 // Texts on the screen through their outline, on devices through the font.
 #include "geometry/Isometric.h"
 #include "model/TextObject.h"
+#include "model/Windows1252.h"
 #include "render/DeviceCache.h"
 #include "render/DevicePath.h"
 #include "render/TextDraw.h"
-#include "text/TextOutline.h"
 
 #include <cmath>
 

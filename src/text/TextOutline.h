@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/PathObject.h"
+#include "model/Windows1252.h"
 #include "text/GlyphSource.h"
 
 #include <string>
@@ -11,12 +12,6 @@ namespace rhomba {
 // The longest face name a font request carries (a LOGFONT face holds 32 characters with its
 // terminating zero).
 inline constexpr std::size_t kMaxFaceNameLength = 31;
-
-// Document bytes (Windows-1252) as UTF-16, the way the system's ANSI conversion reads them.
-std::u16string Cp1252ToUtf16(std::string_view bytes);
-
-// Windows-1252 bytes as UTF-8, for the platform font lookups that want it.
-std::string Cp1252ToUtf8(std::string_view bytes);
 
 // The face a text asks for: its font name cut to kMaxFaceNameLength bytes, and its style.
 GlyphFace TextFace(const std::string& fontName, bool bold, bool italic);

@@ -1,6 +1,6 @@
 #include "win32/GdiDevice.h"
 
-#include "text/TextOutline.h"
+#include "model/Windows1252.h"
 
 #include <vector>
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace rhomba {
+
+// Document bytes (Windows-1252) as UTF-16, the way the system's ANSI conversion reads them.
+std::u16string Cp1252ToUtf16(std::string_view bytes);
+
+// Windows-1252 bytes as UTF-8, for the platform font lookups that want it.
+std::string Cp1252ToUtf8(std::string_view bytes);
+
+// UTF-16 to Windows-1252; characters without a place in the code page become "?".
+std::string ToWindows1252(std::u16string_view text);
+
+} // namespace rhomba
