@@ -12,6 +12,17 @@ namespace {
 // drawings depend on those last bits.
 double ToRadians3D(double degrees) { return degrees / 180 * kTruncatedPi; }
 
+// The turn that carries axis from toward axis to (x 0, y 1, z 2).
+Matrix3D Turn(int from, int to, double degrees) {
+    const double r = ToRadians3D(degrees);
+    Matrix3D turn;
+    turn.m[from * 4 + from] = std::cos(r);
+    turn.m[from * 4 + to] = -std::sin(r);
+    turn.m[to * 4 + from] = std::sin(r);
+    turn.m[to * 4 + to] = std::cos(r);
+    return turn;
+}
+
 } // namespace
 
 void Matrix3D::Multiply(const Matrix3D& other) {
@@ -34,35 +45,11 @@ void Matrix3D::ApplyScale(double sx, double sy, double sz) {
     Multiply(s);
 }
 
-void Matrix3D::ApplyRotateZ(double degrees) {
-    const double r = ToRadians3D(degrees);
-    Matrix3D rz;
-    rz.m[0] = std::cos(r);
-    rz.m[1] = -std::sin(r);
-    rz.m[4] = std::sin(r);
-    rz.m[5] = std::cos(r);
-    Multiply(rz);
-}
+void Matrix3D::ApplyRotateZ(double degrees) { Multiply(Turn(0, 1, degrees)); }
 
-void Matrix3D::ApplyRotateX(double degrees) {
-    const double r = ToRadians3D(degrees);
-    Matrix3D rx;
-    rx.m[5] = std::cos(r);
-    rx.m[6] = -std::sin(r);
-    rx.m[9] = std::sin(r);
-    rx.m[10] = std::cos(r);
-    Multiply(rx);
-}
+void Matrix3D::ApplyRotateX(double degrees) { Multiply(Turn(1, 2, degrees)); }
 
-void Matrix3D::ApplyRotateY(double degrees) {
-    const double r = ToRadians3D(degrees);
-    Matrix3D ry;
-    ry.m[0] = std::cos(r);
-    ry.m[2] = std::sin(r);
-    ry.m[8] = -std::sin(r);
-    ry.m[10] = std::cos(r);
-    Multiply(ry);
-}
+void Matrix3D::ApplyRotateY(double degrees) { Multiply(Turn(2, 0, degrees)); }
 
 void Matrix3D::TransformPoint3(double& x, double& y, double& z) const {
     const double nx = m[0] * x + m[1] * y + m[2] * z + m[3];
