@@ -2,7 +2,6 @@
 
 #include "model/Reporter.h"
 
-#include <deque>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -13,18 +12,16 @@ class Document;
 
 namespace rhomba::cli {
 
-// Messages and questions on a stream (stderr in the tool). Questions are answered from a
-// script, yes once it runs out; each question is shown with its answer.
+// Messages and questions on a stream (stderr in the tool). Every question is answered yes and
+// shown with its answer; the paste step scripts other answers.
 class StreamReporter : public Reporter {
 public:
     explicit StreamReporter(std::ostream& stream) : stream_(stream) {}
     void Inform(std::string_view message) override;
     bool Ask(std::string_view question) override;
-    void Script(std::deque<bool> answers) { answers_ = std::move(answers); }
 
 private:
     std::ostream& stream_;
-    std::deque<bool> answers_;
 };
 
 // Exit codes of the tool.

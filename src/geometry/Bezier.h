@@ -14,14 +14,6 @@ struct CubicBezier {
         const double a = s * s * s, b = 3 * s * s * t, c = 3 * s * t * t, d = t * t * t;
         return {a * p0.x + b * p1.x + c * p2.x + d * p3.x, a * p0.y + b * p1.y + c * p2.y + d * p3.y};
     }
-
-    // The first derivative at t.
-    constexpr Point2 Tangent(double t) const {
-        const double s = 1 - t;
-        const double a = 3 * s * s, b = 6 * s * t, c = 3 * t * t;
-        return {a * (p1.x - p0.x) + b * (p2.x - p1.x) + c * (p3.x - p2.x),
-                a * (p1.y - p0.y) + b * (p2.y - p1.y) + c * (p3.y - p2.y)};
-    }
 };
 
 // The two halves of a curve split at t by de Casteljau's construction; together they trace

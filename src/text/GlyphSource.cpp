@@ -21,7 +21,6 @@ const Glyph* GlyphCache::GetGlyph(const GlyphFace& face, char16_t code) {
     FaceTable& table = faces_[lastFace_];
     Entry& entry = code < 256 ? table.low[code] : table.high[code];
     if (!entry.known) {
-        ++misses_;
         entry.known = true;
         if (const Glyph* glyph = source_.GetGlyph(face, code)) {
             entry.glyph = *glyph;

@@ -42,8 +42,6 @@ public:
     explicit GlyphCache(GlyphSource& source) : source_(source) {}
     const Glyph* GetGlyph(const GlyphFace& face, char16_t code) override;
 
-    std::size_t Misses() const { return misses_; }
-
 private:
     struct Entry {
         bool known = false;
@@ -59,7 +57,6 @@ private:
     GlyphSource& source_;
     std::vector<FaceTable> faces_;
     std::size_t lastFace_ = 0;
-    std::size_t misses_ = 0;
 };
 
 // The process-wide glyph source that text outlines are built from. The platform installs it at
