@@ -62,10 +62,29 @@ std::string FormatG(double value) {
     return out;
 }
 
+bool ReadWholeNumber(std::string_view word, double& value) {
+    std::size_t end = 0;
+    const double read = ReadLeadingNumber(word, end);
+    if (end == 0 || end != word.size()) return false;
+    value = read;
+    return true;
+}
+
 std::string_view Trim(std::string_view text) {
     while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
     while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
     return text;
+}
+
+std::vector<std::string_view> SplitWords(std::string_view text, std::string_view separators) {
+    std::vector<std::string_view> words;
+    std::size_t start = text.find_first_not_of(separators);
+    while (start != std::string_view::npos) {
+        const std::size_t end = text.find_first_of(separators, start);
+        words.push_back(text.substr(start, end - start));
+        start = text.find_first_not_of(separators, end);
+    }
+    return words;
 }
 
 } // namespace rhomba

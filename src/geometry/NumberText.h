@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace rhomba {
 
@@ -18,7 +19,14 @@ std::string FormatG(double value);
 // Appends FormatG(value) to out; the hot path of the writers.
 void AppendG(std::string& out, double value);
 
+// A number as ReadLeadingNumber reads it that fills the whole of word; false (value untouched)
+// when there is none or something follows it.
+bool ReadWholeNumber(std::string_view word, double& value);
+
 // Removes blanks, tabs and line ends from both ends.
 std::string_view Trim(std::string_view text);
+
+// The non-empty runs of text between any of the separator characters.
+std::vector<std::string_view> SplitWords(std::string_view text, std::string_view separators);
 
 } // namespace rhomba

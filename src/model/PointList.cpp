@@ -21,25 +21,14 @@ void AppendMillimetres(std::string& out, double points) {
     out += text;
 }
 
-bool IsSeparator(char c) { return c == ' ' || c == '\t' || c == ';' || c == '\r'; }
+// The words of a point list line, separated by blanks, tabs, semicolons or a CR.
+std::vector<std::string_view> Words(std::string_view line) { return SplitWords(line, " \t;\r"); }
 
-std::vector<std::string_view> Words(std::string_view line) {
-    std::vector<std::string_view> words;
-    std::size_t i = 0;
-    while (i < line.size()) {
-        while (i < line.size() && IsSeparator(line[i])) ++i;
-        const std::size_t start = i;
-        while (i < line.size() && !IsSeparator(line[i])) ++i;
-        if (i > start) words.push_back(line.substr(start, i - start));
-    }
-    return words;
-}
-
+// A finite number filling the word.
 bool ReadNumber(std::string_view word, double& value) {
-    std::size_t end = 0;
-    const double v = ReadLeadingNumber(word, end);
-    if (end == 0 || end != word.size() || !std::isfinite(v)) return false;
-    value = v;
+    double read = 0;
+    if (!ReadWholeNumber(word, read) || !std::isfinite(read)) return false;
+    value = read;
     return true;
 }
 

@@ -1,5 +1,6 @@
 // The apply steps of node editing and of combining paths.
 #include "cli/steps/StepWords.h"
+#include "geometry/NumberText.h"
 #include "model/Combine.h"
 #include "model/Document.h"
 #include "model/PathNodes.h"
@@ -71,7 +72,7 @@ bool RunNode(StepContext& context, std::string_view rest) {
 
     double x = 0, y = 0;
     unsigned long long index = 0;
-    if (op == "add" && (words.size() != 3 || !ReadDecimal(words[1], x) || !ReadDecimal(words[2], y))) {
+    if (op == "add" && (words.size() != 3 || !ReadWholeNumber(words[1], x) || !ReadWholeNumber(words[2], y))) {
         return Tell(context, "node add needs X Y in points");
     }
     if ((op == "to-curve" || op == "to-line") && (words.size() != 2 || !ReadWhole(words[1], index))) {

@@ -7,18 +7,7 @@
 
 namespace rhomba::cli {
 
-std::vector<std::string_view> Words(std::string_view text) {
-    const auto blank = [](char c) { return c == ' ' || c == '\t'; };
-    std::vector<std::string_view> words;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        while (i < text.size() && blank(text[i])) ++i;
-        const std::size_t start = i;
-        while (i < text.size() && !blank(text[i])) ++i;
-        if (i > start) words.push_back(text.substr(start, i - start));
-    }
-    return words;
-}
+std::vector<std::string_view> Words(std::string_view text) { return SplitWords(text, " \t"); }
 
 bool Tell(StepContext& context, std::string_view message) {
     context.reporter.Inform("rhomba-cli: " + std::string(message));
@@ -28,14 +17,6 @@ bool Tell(StepContext& context, std::string_view message) {
 bool ReadFlag(std::string_view word, bool& flag) {
     if (word != "0" && word != "1") return false;
     flag = word == "1";
-    return true;
-}
-
-bool ReadDecimal(std::string_view word, double& value) {
-    std::size_t end = 0;
-    const double read = ReadLeadingNumber(word, end);
-    if (end == 0 || end != word.size()) return false;
-    value = read;
     return true;
 }
 

@@ -24,8 +24,6 @@ bool ReadWhole(std::string_view word, Integer& value) {
     const auto result = std::from_chars(word.data(), word.data() + word.size(), value);
     return result.ec == std::errc{} && result.ptr == word.data() + word.size();
 }
-// A decimal number filling the word; false (value untouched) otherwise.
-bool ReadDecimal(std::string_view word, double& value);
 // The position of word among names, -1 when it is none of them.
 int IndexOf(std::string_view word, std::initializer_list<std::string_view> names);
 
