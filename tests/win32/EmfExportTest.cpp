@@ -3,9 +3,9 @@
 #include "format/NativeReader.h"
 #include "model/Document.h"
 #include "model/PathObject.h"
-#include "model/Reporter.h"
 #include "model/TextObject.h"
 #include "render/DeviceCache.h"
+#include "support/Reporters.h"
 #include "win32/EmfFile.h"
 
 #include <gtest/gtest.h>
@@ -19,12 +19,7 @@
 namespace rhomba {
 namespace {
 
-class RecordingReporter : public Reporter {
-public:
-    void Inform(std::string_view message) override { messages.emplace_back(message); }
-    bool Ask(std::string_view) override { return true; }
-    std::vector<std::string> messages;
-};
+using test::RecordingReporter;
 
 struct Records {
     std::set<DWORD> types;
