@@ -1,5 +1,6 @@
 #include "export/SvgWriter.h"
 
+#include "format/Rounding.h"
 #include "geometry/NumberText.h"
 #include "model/Document.h"
 #include "model/Hotspot.h"
@@ -21,9 +22,7 @@ void SvgWriter::Indent(int depth) {
 
 void SvgWriter::Number(double value) { AppendG(out_, value); }
 
-void SvgWriter::Rounded(double value, int decimals) {
-    AppendG(out_, RoundDecimals(value, decimals));
-}
+void SvgWriter::Rounded(double value, int decimals) { AppendRounded(out_, value, decimals); }
 
 void SvgWriter::Attribute(std::string_view name, double value, std::string_view unit) {
     out_.push_back(' ');

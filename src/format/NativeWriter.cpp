@@ -13,15 +13,6 @@
 
 namespace rhomba {
 
-double RoundDecimals(double value, int decimals) {
-    static constexpr double kScale[] = {1, 10, 100, 1000, 10000, 100000, 1000000};
-    if (decimals < 0) decimals = 0;
-    if (decimals > 6) decimals = 6;
-    // Beyond 2^52 / 10^6 a double has no decimals left to round, and scaling could overflow.
-    if (!(std::fabs(value) < 4.0e9)) return value;
-    return std::round(value * kScale[decimals]) / kScale[decimals];
-}
-
 void AppendRrggbb(std::string& out, ColorRef color, bool padded) {
     const unsigned rgb = ((color & 0xFF) << 16) | (color & 0xFF00) | ((color >> 16) & 0xFF);
     char text[16];
@@ -31,9 +22,7 @@ void AppendRrggbb(std::string& out, ColorRef color, bool padded) {
 
 void NativeWriter::Number(double value) { AppendG(out_, value); }
 
-void NativeWriter::Rounded(double value, int decimals) {
-    AppendG(out_, RoundDecimals(value, decimals));
-}
+void NativeWriter::Rounded(double value, int decimals) { AppendRounded(out_, value, decimals); }
 
 void NativeWriter::Header() {
     out_.append(kProductWord);
