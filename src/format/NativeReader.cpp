@@ -55,6 +55,10 @@ struct Fields {
         if (q < end && *q == '-') ++q;
         double value = 0;
         if (q < end && (IsDigit(*q) || (*q == '.' && q + 1 < end && IsDigit(q[1])))) {
+            if (FastDecimal(q, *start == '-', value)) {
+                SkipWord();
+                return value;
+            }
             const auto result = std::from_chars(start, end, value);
             if (result.ec == std::errc::result_out_of_range) {
                 // Out of range: strtod's answer, +-HUGE_VAL or 0.
@@ -68,6 +72,27 @@ struct Fields {
         }
         SkipWord();
         return value;
+    }
+    // Most coordinates have a few digits and no exponent: with at most 15 digits the integer
+    // they form is exact, and one division by an exact power of ten rounds correctly, so the
+    // result is the same double the general parser gives. Anything else is left to it.
+    bool FastDecimal(const char* q, bool negative, double& value) {
+        static constexpr double kPowers[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7,
+                                             1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+        std::uint64_t digits = 0;
+        int count = 0;
+        int decimals = 0;
+        for (; q < end && IsDigit(*q); ++q, ++count) digits = digits * 10 + unsigned(*q - '0');
+        if (q < end && *q == '.') {
+            for (++q; q < end && IsDigit(*q); ++q, ++count, ++decimals) {
+                digits = digits * 10 + unsigned(*q - '0');
+            }
+        }
+        if (count > 15 || (q < end && (*q == 'e' || *q == 'E'))) return false;
+        const double magnitude = static_cast<double>(digits) / kPowers[decimals];
+        value = negative ? -magnitude : magnitude;
+        p = q;
+        return true;
     }
     // Hexadecimal RRGGBB as strtoul reads it, turned into a COLORREF.
     ColorRef Colour() {
