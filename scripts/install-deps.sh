@@ -21,6 +21,7 @@ packages=(
     libxml2-utils              # xmllint, checks exported SVG
     librsvg2-bin               # rsvg-convert, renders exported SVG
     clang                      # fuzzing builds
+    libclang-rt-14-dev         # libFuzzer and the sanitizer runtimes (only recommended by clang)
 )
 
 missing=()
