@@ -1,15 +1,16 @@
 #pragma once
 
 #include "ui/dialogs/DialogModel.h"
+#include "ui/resource.h"
 
 namespace rhomba {
 
 // "Rotieren" (dialog 160): turns the selection about its box centre.
 class RotateDialogModel : public DialogModel {
 public:
-    static constexpr int kAngle = 1046;
-    static constexpr int kClockwise = 1047;
-    static constexpr int kCounterClockwise = 1048;
+    static constexpr int kAngle = IDC_ROTATE_ANGLE;
+    static constexpr int kClockwise = IDC_ROTATE_CW;
+    static constexpr int kCounterClockwise = IDC_ROTATE_CCW;
     static constexpr int kDirections[2] = {kClockwise, kCounterClockwise};
 
     using DialogModel::DialogModel;
@@ -20,9 +21,9 @@ public:
 // "Dehnen" (dialog 161): scales the selection about its box centre by two percentages.
 class StretchDialogModel : public DialogModel {
 public:
-    static constexpr int kX = 1049;
-    static constexpr int kY = 1050;
-    static constexpr int kBothAxes = 1051;
+    static constexpr int kX = IDC_STRETCH_X;
+    static constexpr int kY = IDC_STRETCH_Y;
+    static constexpr int kBothAxes = IDC_STRETCH_BOTH;
 
     using DialogModel::DialogModel;
     void Open() override;
@@ -35,10 +36,10 @@ public:
 // percent field showing the same slope.
 class ShearDialogModel : public DialogModel {
 public:
-    static constexpr int kXDegrees = 1053;
-    static constexpr int kYDegrees = 1052;
-    static constexpr int kXPercent = 1054;
-    static constexpr int kYPercent = 1055;
+    static constexpr int kXDegrees = IDC_SHEAR_X_DEGREES;
+    static constexpr int kYDegrees = IDC_SHEAR_Y_DEGREES;
+    static constexpr int kXPercent = IDC_SHEAR_X_PERCENT;
+    static constexpr int kYPercent = IDC_SHEAR_Y_PERCENT;
 
     using DialogModel::DialogModel;
     void Open() override;
@@ -49,8 +50,8 @@ public:
 // "Verschieben" (dialog 164): moves the selection by millimetres.
 class MoveDialogModel : public DialogModel {
 public:
-    static constexpr int kX = 1066;
-    static constexpr int kY = 1067;
+    static constexpr int kX = IDC_MOVE_X;
+    static constexpr int kY = IDC_MOVE_Y;
 
     using DialogModel::DialogModel;
     void Open() override;

@@ -2,6 +2,7 @@
 
 #include "shapes/SpiralShape.h"
 #include "ui/dialogs/DialogModel.h"
+#include "ui/resource.h"
 
 #include <string>
 
@@ -14,12 +15,13 @@ namespace rhomba {
 // kMaxPolygonCorners corners.
 class PolygonDialogModel : public DialogModel {
 public:
-    static constexpr int kCorners = 1054;
-    static constexpr int kRadius = 1055;
-    static constexpr int kPiePieces = 1057;
-    static constexpr int kSpokes = 1060;
-    static constexpr int kOutline = 1058;
-    static constexpr int kStarts[4] = {1056, 1062, 1063, 1064}; // top, right, bottom, left
+    static constexpr int kCorners = IDC_POLYGON_CORNERS;
+    static constexpr int kRadius = IDC_POLYGON_RADIUS;
+    static constexpr int kPiePieces = IDC_POLYGON_PIE;
+    static constexpr int kSpokes = IDC_POLYGON_SPOKES;
+    static constexpr int kOutline = IDC_POLYGON_OUTLINE;
+    static constexpr int kStarts[4] = {IDC_POLYGON_TOP, IDC_POLYGON_RIGHT, IDC_POLYGON_BOTTOM,
+                                         IDC_POLYGON_LEFT}; // top, right, bottom, left
 
     using DialogModel::DialogModel;
     void Open() override;
@@ -36,11 +38,11 @@ inline constexpr int kMaxPolygonCorners = 1000;
 // "Kreis" (dialog 166).
 class CircleDialogModel : public DialogModel {
 public:
-    static constexpr int kRadius = 1070;
-    static constexpr int kSpokes = 1071;
-    static constexpr int kCentre = 1072;
-    static constexpr int kStart = 1073;
-    static constexpr int kEnd = 1074;
+    static constexpr int kRadius = IDC_CIRCLE_RADIUS;
+    static constexpr int kSpokes = IDC_CIRCLE_SPOKES;
+    static constexpr int kCentre = IDC_CIRCLE_CENTRE;
+    static constexpr int kStart = IDC_CIRCLE_START;
+    static constexpr int kEnd = IDC_CIRCLE_END;
 
     using DialogModel::DialogModel;
     void Open() override;
@@ -50,11 +52,11 @@ public:
 // "Sinus" (dialog 167).
 class SineDialogModel : public DialogModel {
 public:
-    static constexpr int kStart = 1075;
-    static constexpr int kEnd = 1076;
-    static constexpr int kAmplitude = 1077;
-    static constexpr int kTickMarks = 1078;
-    static constexpr int kAxes = 1079;
+    static constexpr int kStart = IDC_SINE_START;
+    static constexpr int kEnd = IDC_SINE_END;
+    static constexpr int kAmplitude = IDC_SINE_AMPLITUDE;
+    static constexpr int kTickMarks = IDC_SINE_TICKS;
+    static constexpr int kAxes = IDC_SINE_AXES;
 
     using DialogModel::DialogModel;
     void Open() override;
@@ -67,10 +69,10 @@ public:
 // of more than 0 and at most kMaxSpiralTurns turns.
 class SpiralDialogModel : public DialogModel {
 public:
-    static constexpr int kMaxRadius = 1080;
-    static constexpr int kGrowth = 1081;
-    static constexpr int kArchimedean = 1082;
-    static constexpr int kLogarithmic = 1083;
+    static constexpr int kMaxRadius = IDC_SPIRAL_MAX_RADIUS;
+    static constexpr int kGrowth = IDC_SPIRAL_GROWTH;
+    static constexpr int kArchimedean = IDC_SPIRAL_ARCHIMEDEAN;
+    static constexpr int kLogarithmic = IDC_SPIRAL_LOGARITHMIC;
     static constexpr int kKinds[2] = {kArchimedean, kLogarithmic};
 
     using DialogModel::DialogModel;

@@ -2,14 +2,15 @@
 
 #include "transform/IsoSpace.h"
 #include "ui/dialogs/DialogModel.h"
+#include "ui/resource.h"
 
 namespace rhomba {
 
 // "Um Zylinder wickeln" (dialog 165): wraps the selection round a cylinder turned by an angle.
 class CylinderDialogModel : public DialogModel {
 public:
-    static constexpr int kAngle = 1068;
-    static constexpr int kForeshorten = 1069;
+    static constexpr int kAngle = IDC_CYLINDER_ANGLE;
+    static constexpr int kForeshorten = IDC_FORESHORTEN;
 
     using DialogModel::DialogModel;
     void Open() override;
@@ -21,13 +22,15 @@ public:
 // "Ebene im Iso-Raum drehen" (dialog 169): turns the selection as a plane of space.
 class PlaneDialogModel : public DialogModel {
 public:
-    static constexpr int kPlanes[4] = {1094, 1095, 1096, 1097}; // XY, ZY, ZX, XZ
-    static constexpr int kFirstAxes[3] = {1065, 1089, 1090};    // X, Y, Z
-    static constexpr int kFirstAngle = 1088;
-    static constexpr int kSecondAxes[3] = {1066, 1092, 1093};
-    static constexpr int kSecondAngle = 1091;
-    static constexpr int kForeshorten = 1069;
-    static constexpr int kPreview = 1087;
+    static constexpr int kPlanes[4] = {IDC_PLANE_XY, IDC_PLANE_ZY, IDC_PLANE_ZX, IDC_PLANE_XZ};
+    static constexpr int kFirstAxes[3] = {IDC_PLANE_FIRST_X, IDC_PLANE_FIRST_Y,
+                                          IDC_PLANE_FIRST_Z};
+    static constexpr int kFirstAngle = IDC_PLANE_FIRST_ANGLE;
+    static constexpr int kSecondAxes[3] = {IDC_PLANE_SECOND_X, IDC_PLANE_SECOND_Y,
+                                           IDC_PLANE_SECOND_Z};
+    static constexpr int kSecondAngle = IDC_PLANE_SECOND_ANGLE;
+    static constexpr int kForeshorten = IDC_FORESHORTEN;
+    static constexpr int kPreview = IDC_PLANE_PREVIEW;
 
     using DialogModel::DialogModel;
     void Open() override;

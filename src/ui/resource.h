@@ -1,0 +1,204 @@
+// The program's resource, command and control ids: read by the resource compiler and by the C++
+// code alike, so plain #defines only.
+#pragma once
+
+// Labels and pictures that the code never addresses.
+#define IDC_STATIC -1
+
+// Icons and cursors
+#define IDI_APP 107
+#define IDI_APP_SMALL 108
+#define IDI_TOOL_SELECT 153
+#define IDI_TOOL_SCROLL 154
+#define IDI_TOOL_ZOOM 155
+#define IDI_TOOL_PATH 157
+#define IDI_TOOL_NODE 158
+#define IDI_TOOL_TEXT 159
+#define IDI_TOOL_RECT 160
+#define IDI_TOOL_ELLIPSE 161
+#define IDR_CURSOR_SCROLL 132
+#define IDR_CURSOR_PATH 133
+#define IDR_CURSOR_NODE 134
+#define IDR_CURSOR_MOVE 135
+#define IDR_CURSOR_ZOOM 136
+#define IDR_CURSOR_TEXT 140
+#define IDR_CURSOR_RECT 141
+#define IDR_CURSOR_ELLIPSE 142
+
+// Menu and accelerator table
+#define IDR_MAINMENU 109
+
+// Commands: Datei
+#define IDM_NEW 32782
+#define IDM_OPEN 32781
+#define IDM_IMPORT_QUENDA 32787
+#define IDM_SAVE 32779
+#define IDM_SAVE_AS 32780
+#define IDM_EXPORT_QUENDA 32783
+#define IDM_EXPORT_SVG 32785
+#define IDM_EXPORT_EMF 32784
+#define IDM_PRINT 32789
+#define IDM_SETTINGS 32790
+#define IDM_EXIT 105
+// Bearbeiten
+#define IDM_UNDO 32805
+#define IDM_REDO 32806
+#define IDM_COPY 32771
+#define IDM_PASTE 32772
+#define IDM_CUT 32804
+#define IDM_DELETE 32773
+#define IDM_ISO_LEFT 32792
+#define IDM_ISO_RIGHT 32793
+#define IDM_ISO_TOP1 32791
+#define IDM_ISO_TOP2 32794
+#define IDM_ISO_BACK_LEFT 32795
+#define IDM_ISO_BACK_RIGHT 32796
+#define IDM_ISO_BACK_TOP1 32797
+#define IDM_ISO_BACK_TOP2 32798
+#define IDM_CYLINDER 32814
+#define IDM_PLANE 32818
+#define IDM_ROTATE 32799
+#define IDM_STRETCH 32800
+#define IDM_SHEAR 32801
+#define IDM_MOVE 32803
+// Objekt
+#define IDM_BACK_ONE 32807
+#define IDM_BACK_ALL 32808
+#define IDM_FORWARD_ONE 32809
+#define IDM_FORWARD_ALL 32810
+#define IDM_POLYGON 32802
+#define IDM_CIRCLE 32815
+#define IDM_SINE 32816
+#define IDM_SPIRAL 32817
+// Ansicht, Hilfe, and the command without a menu entry
+#define IDM_PROPERTIES 32778
+#define IDM_DRAFT 32788
+#define IDM_ABOUT 104
+#define IDM_TEXT_TO_PATH 32777
+
+// The position of the "&Isometrie" popup in the Bearbeiten menu, separators counted.
+#define POS_ISOMETRY_POPUP 8
+
+// The main window's hidden edit control through which "Kopieren" reaches the clipboard.
+#define IDC_COPY_EDIT 101
+
+// About dialog
+#define IDD_ABOUT 103
+#define IDC_ABOUT_HELP 1097
+
+// Tool palette
+#define IDD_TOOLS 129
+#define IDC_TOOL_SELECT 1004
+#define IDC_TOOL_SCROLL 1005
+#define IDC_TOOL_ZOOM 1006
+#define IDC_TOOL_PATH 1007
+#define IDC_TOOL_NODE 1008
+#define IDC_TOOL_TEXT 11111
+#define IDC_TOOL_RECT 11112
+#define IDC_TOOL_ELLIPSE 11113
+#define IDC_ZOOM 1045
+
+// Status strip
+#define IDD_STATUS 131
+#define IDC_STATUS_POINTS 1009
+#define IDC_STATUS_MILLIMETRES 1010
+#define IDC_STATUS_TEXT 1011
+
+// Settings and print dialogs (they share the printer controls)
+#define IDD_SETTINGS 151
+#define IDD_PRINT 152
+#define IDC_SHOW_ISO_LINES 1033
+#define IDC_SHOW_CROSS 1034
+#define IDC_SHOW_PAGE 1035
+#define IDC_PRINTER_CHOOSE 1037
+#define IDC_PRINTER_NAME 1038
+#define IDC_PRINT_START 1040
+
+// Properties panel: frame and pages
+#define IDD_PANEL_FRAME 146
+#define IDD_PANEL_STYLE 145
+#define IDD_PANEL_POINTS 147
+#define IDD_PANEL_FONT 148
+#define IDD_PANEL_TEXT 149
+#define IDD_PANEL_HOTSPOT 150
+#define IDC_PANEL_PEN_WIDTH 1019
+#define IDC_PANEL_STROKE 1020
+#define IDC_PANEL_FILL 1021
+#define IDC_PANEL_STROKE_COLOUR 1022
+#define IDC_PANEL_FILL_COLOUR 1023
+#define IDC_PANEL_DASH_FIRST 1024
+#define IDC_PANEL_DASH_LAST 1031
+#define IDC_PANEL_POINTS 1016
+#define IDC_PANEL_POINTS_STATE 1027
+#define IDC_PANEL_TEXT_SIZE 1014
+#define IDC_PANEL_FONT_NAME 1015
+#define IDC_PANEL_FONT_CHOOSE 1025
+#define IDC_PANEL_BOLD 1028
+#define IDC_PANEL_ITALIC 1029
+#define IDC_PANEL_TEXT 1013
+#define IDC_PANEL_HOTSPOT_ICON 101
+#define IDC_PANEL_HOTSPOT_NAME 1030
+
+// Transformation dialogs
+#define IDD_ROTATE 160
+#define IDC_ROTATE_ANGLE 1046
+#define IDC_ROTATE_CW 1047
+#define IDC_ROTATE_CCW 1048
+#define IDD_STRETCH 161
+#define IDC_STRETCH_X 1049
+#define IDC_STRETCH_Y 1050
+#define IDC_STRETCH_BOTH 1051
+#define IDD_SHEAR 162
+#define IDC_SHEAR_X_DEGREES 1053
+#define IDC_SHEAR_Y_DEGREES 1052
+#define IDC_SHEAR_X_PERCENT 1054
+#define IDC_SHEAR_Y_PERCENT 1055
+#define IDD_MOVE 164
+#define IDC_MOVE_X 1066
+#define IDC_MOVE_Y 1067
+#define IDD_CYLINDER 165
+#define IDC_CYLINDER_ANGLE 1068
+#define IDC_FORESHORTEN 1069
+#define IDD_PLANE 169
+#define IDC_PLANE_XY 1094
+#define IDC_PLANE_ZY 1095
+#define IDC_PLANE_ZX 1096
+#define IDC_PLANE_XZ 1097
+#define IDC_PLANE_FIRST_X 1065
+#define IDC_PLANE_FIRST_Y 1089
+#define IDC_PLANE_FIRST_Z 1090
+#define IDC_PLANE_FIRST_ANGLE 1088
+#define IDC_PLANE_SECOND_X 1066
+#define IDC_PLANE_SECOND_Y 1092
+#define IDC_PLANE_SECOND_Z 1093
+#define IDC_PLANE_SECOND_ANGLE 1091
+#define IDC_PLANE_PREVIEW 1087
+
+// Generator dialogs
+#define IDD_POLYGON 163
+#define IDC_POLYGON_CORNERS 1054
+#define IDC_POLYGON_RADIUS 1055
+#define IDC_POLYGON_PIE 1057
+#define IDC_POLYGON_SPOKES 1060
+#define IDC_POLYGON_OUTLINE 1058
+#define IDC_POLYGON_TOP 1056
+#define IDC_POLYGON_RIGHT 1062
+#define IDC_POLYGON_BOTTOM 1063
+#define IDC_POLYGON_LEFT 1064
+#define IDD_CIRCLE 166
+#define IDC_CIRCLE_RADIUS 1070
+#define IDC_CIRCLE_SPOKES 1071
+#define IDC_CIRCLE_CENTRE 1072
+#define IDC_CIRCLE_START 1073
+#define IDC_CIRCLE_END 1074
+#define IDD_SINE 167
+#define IDC_SINE_START 1075
+#define IDC_SINE_END 1076
+#define IDC_SINE_AMPLITUDE 1077
+#define IDC_SINE_TICKS 1078
+#define IDC_SINE_AXES 1079
+#define IDD_SPIRAL 168
+#define IDC_SPIRAL_MAX_RADIUS 1080
+#define IDC_SPIRAL_GROWTH 1081
+#define IDC_SPIRAL_ARCHIMEDEAN 1082
+#define IDC_SPIRAL_LOGARITHMIC 1083

@@ -1,0 +1,135 @@
+// The main window: builds palette, status strip, canvas and the hidden copy field, lays them
+// out, grays the edit menu and hands every command to the command table.
+#include "ui/Commands.h"
+#include "ui/Editor.h"
+#include "ui/resource.h"
+#include "win32/shell/Shell.h"
+
+namespace rhomba {
+
+namespace {
+
+// The status strip takes nothing but its initial focus.
+INT_PTR CALLBACK StatusStripProc(HWND, UINT message, WPARAM, LPARAM) {
+    return message == WM_INITDIALOG ? TRUE : FALSE;
+}
+
+void RegisterCanvasClass(HINSTANCE instance) {
+    WNDCLASSEXW canvasClass{};
+    canvasClass.cbSize = sizeof canvasClass;
+    canvasClass.style = CS_HREDRAW | CS_VREDRAW;
+    canvasClass.lpfnWndProc = CanvasWindowProc;
+    canvasClass.hInstance = instance;
+    canvasClass.hIcon = ::LoadIconW(instance, MAKEINTRESOURCEW(IDI_APP));
+    canvasClass.hIconSm = ::LoadIconW(instance, MAKEINTRESOURCEW(IDI_APP_SMALL));
+    canvasClass.hCursor = TheShell().cursors[kCursorArrow];
+    canvasClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
+    canvasClass.lpszClassName = kCanvasClass;
+    ::RegisterClassExW(&canvasClass); // a second editor in one process finds it registered
+}
+
+void CreateChildren(HWND main) {
+    Shell& shell = TheShell();
+    shell.main = main;
+    shell.palette = ::CreateDialogW(shell.instance, MAKEINTRESOURCEW(IDD_TOOLS), main, ToolPaletteProc);
+    shell.status = ::CreateDialogW(shell.instance, MAKEINTRESOURCEW(IDD_STATUS), main, StatusStripProc);
+    RegisterCanvasClass(shell.instance);
+    shell.canvas = ::CreateWindowExW(0, kCanvasClass, kCanvasClass, WS_CHILD | WS_VISIBLE,
+                                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
+                                     main, nullptr, shell.instance, nullptr);
+    // "Kopieren" hands its text to this field, which puts it on the clipboard.
+    shell.copyEdit = ::CreateWindowExW(0, L"EDIT", L"", WS_CHILD | ES_MULTILINE | ES_AUTOVSCROLL, 0,
+                                       0, 0, 0, main, reinterpret_cast<HMENU>(IDC_COPY_EDIT),
+                                       shell.instance, nullptr);
+    ::SendMessageW(shell.copyEdit, EM_SETLIMITTEXT, 0, 0);
+}
+
+int OuterWidth(HWND window) {
+    RECT box{};
+    ::GetWindowRect(window, &box);
+    return box.right - box.left;
+}
+
+int OuterHeight(HWND window) {
+    RECT box{};
+    ::GetWindowRect(window, &box);
+    return box.bottom - box.top;
+}
+
+// Grays what needs a selection or clipboard text, in the "Bearbeiten" menu only.
+void EnableEditMenu(HMENU popup) {
+    if (::GetMenuState(popup, IDM_DELETE, MF_BYCOMMAND) == static_cast<UINT>(-1)) return;
+    const EditMenuState state = EditMenuEnabling(*TheShell().editor);
+    ::EnableMenuItem(popup, IDM_PASTE, MF_BYCOMMAND | (state.paste ? MF_ENABLED : MF_GRAYED));
+    const UINT selection = state.selectionEntries ? MF_ENABLED : MF_GRAYED;
+    for (int id : kSelectionCommands) ::EnableMenuItem(popup, id, MF_BYCOMMAND | selection);
+    ::EnableMenuItem(popup, POS_ISOMETRY_POPUP, MF_BYPOSITION | selection);
+}
+
+// Space held switches to the scroll tool; letting go brings the tool back.
+int toolBeforeSpace = -1;
+
+void KeyDown(WPARAM key) {
+    Editor& editor = *TheShell().editor;
+    if (key == VK_SPACE && toolBeforeSpace < 0) {
+        toolBeforeSpace = editor.tool;
+        SetTool(1);
+    } else if (key == VK_DELETE) {
+        editor.document.DeleteSelection();
+        Redraw();
+    }
+}
+
+void KeyUp(WPARAM key) {
+    if (key == VK_SPACE && toolBeforeSpace >= 0) {
+        SetTool(toolBeforeSpace);
+        toolBeforeSpace = -1;
+    }
+}
+
+} // namespace
+
+void LayoutMainWindow() {
+    const Shell& shell = TheShell();
+    if (shell.palette == nullptr || shell.status == nullptr || shell.canvas == nullptr) return;
+    RECT client{};
+    ::GetClientRect(shell.main, &client);
+    const int width = client.right, height = client.bottom;
+    const int palette = OuterWidth(shell.palette);
+    const int strip = OuterHeight(shell.status);
+    ::MoveWindow(shell.status, -1, height - strip, width + 2, strip, TRUE);
+    ::MoveWindow(shell.palette, -1, -1, palette, height - strip + 1, TRUE);
+    ::MoveWindow(shell.canvas, palette, 0, width - palette, height - strip + 1, TRUE);
+}
+
+LRESULT CALLBACK MainWindowProc(HWND main, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_CREATE:
+        CreateChildren(main);
+        return 0;
+    case WM_SIZE:
+        if (wParam != SIZE_MINIMIZED) LayoutMainWindow();
+        return 0;
+    case WM_DESTROY:
+        ::PostQuitMessage(0);
+        return 0;
+    case WM_KEYDOWN:
+        KeyDown(wParam);
+        return 0;
+    case WM_KEYUP:
+        KeyUp(wParam);
+        return 0;
+    case WM_INITMENUPOPUP:
+        EnableEditMenu(reinterpret_cast<HMENU>(wParam));
+        return 0;
+    case WM_COMMAND:
+        // Menus and accelerators only: controls' notifications carry their window in lParam.
+        if (lParam == 0 && RunCommand(*TheShell().editor, LOWORD(wParam))) return 0;
+        break;
+    default:
+        break;
+    }
+    return ::DefWindowProcW(main, message, wParam, lParam);
+}
+
+} // namespace rhomba
