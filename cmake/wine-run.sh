@@ -5,6 +5,7 @@
 # - The Wine prefix is our own, so a developer's ~/.wine is never touched:
 #   $RHOMBA_WINEPREFIX, else $WINEPREFIX, else ~/.cache/rhomba/wine. It is created on first
 #   use with `wineboot -i`, without the Mono/Gecko installer dialogs (log: <prefix>.init.log).
+# - Windows are unmanaged (see below), so hiding one costs nothing on a virtual display.
 # - Without a display the program runs on a virtual X server (xvfb-run), so tests may open
 #   windows. Run the whole test session under one `xvfb-run -a` to share a server.
 set -euo pipefail
@@ -52,6 +53,12 @@ if [[ ! -f "$prefix/system.reg" ]]; then
         flock -u 9
         exit 2
     fi
+fi
+# Windows are left unmanaged: on a virtual display without a window manager Wine otherwise
+# waits two seconds for every hidden window to be withdrawn. Wine then draws the frames itself.
+if [[ ! -f "$prefix/.rhomba-unmanaged" ]]; then
+    "${wine[@]}" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1 9>&- \
+        && touch "$prefix/.rhomba-unmanaged"
 fi
 flock -u 9
 exec 9>&-
