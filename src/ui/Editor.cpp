@@ -5,6 +5,8 @@
 namespace rhomba {
 
 Editor::Editor(ShellHost& shell) : host(shell) {
+    // The editor opens with the isometric guide lines on; the settings dialog switches them.
+    view.switches.isometricLines = true;
     document.onTitleChange = [this](const std::string& name) { host.UpdateTitle(name); };
 }
 

@@ -10,7 +10,9 @@
 namespace rhomba::test {
 
 // Keeps every message and question; answers the questions from a script, yes once it runs out.
-struct RecordingReporter : Reporter {
+// Base is the reporter interface it records for (Reporter, or a port that extends it).
+template <typename Base>
+struct Recording : Base {
     std::vector<std::string> messages;
     std::vector<std::string> questions;
     std::deque<bool> answers;
@@ -24,5 +26,7 @@ struct RecordingReporter : Reporter {
         return answer;
     }
 };
+
+using RecordingReporter = Recording<Reporter>;
 
 } // namespace rhomba::test

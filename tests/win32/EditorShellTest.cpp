@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 namespace rhomba::test {
 namespace {
 
@@ -103,6 +105,117 @@ TEST_F(EditorShell, EditMenuFollowsSelectionAndClipboard) {
     EXPECT_FALSE(grayed(POS_ISOMETRY_POPUP, MF_BYPOSITION));
     EXPECT_TRUE(grayed(IDM_UNDO));
     EXPECT_TRUE(grayed(IDM_REDO));
+}
+
+void PutTextOnClipboard(const std::wstring& text) {
+    ASSERT_TRUE(::OpenClipboard(TheShell().main));
+    ::EmptyClipboard();
+    HGLOBAL data = ::GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(wchar_t));
+    std::memcpy(::GlobalLock(data), text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+    ::GlobalUnlock(data);
+    ::SetClipboardData(CF_UNICODETEXT, data);
+    ::CloseClipboard();
+}
+
+TEST_F(EditorShell, CopyAndPasteGoThroughTheRealClipboard) {
+    Add(Doc(), Square(0, 0, 10))->SetName("Rahmen");
+    Command(IDM_COPY);
+    EXPECT_TRUE(::IsClipboardFormatAvailable(CF_UNICODETEXT));
+    EXPECT_TRUE(::IsClipboardFormatAvailable(CF_ENHMETAFILE)); // the picture for other programs
+    Command(IDM_PASTE);
+    Layer& layer = Doc().CurrentLayer();
+    ASSERT_EQ(layer.ChildCount(), 2u);
+    EXPECT_EQ(layer.ChildAt(1)->GetName(), "Rahmen");
+    EXPECT_EQ(Doc().Selection(), std::vector<GraphicObject*>{layer.ChildAt(1)});
+
+    // Text that is no drawing is offered as an import, with its first characters shown.
+    PutTextOnClipboard(L"Ma\u00DFe\tund Gr\u00F6\u00DFen");
+    ModalDriver driver;
+    driver.Answer(IDYES);
+    Command(IDM_PASTE);
+    ASSERT_EQ(driver.seen.size(), 1u);
+    EXPECT_EQ(driver.seen[0], "Rhomba|M\xF6" "chten Sie ein automatisch generiertes Textobjekte einf\xFC" "gen?");
+    ASSERT_EQ(layer.ChildCount(), 3u);
+    EXPECT_EQ(layer.ChildAt(2)->GetName(), "importierter Text");
+}
+
+// Keys reach the command table through the accelerators, aimed at the canvas as at the main window.
+TEST_F(EditorShell, AcceleratorsFromTheCanvasReachTheCommands) {
+    Add(Doc(), Square(0, 0, 10));
+    Add(Doc(), Square(20, 0, 10));
+    BYTE keys[256] = {};
+    ::GetKeyboardState(keys);
+    keys[VK_CONTROL] = 0x80;
+    ::SetKeyboardState(keys);
+    MSG key{TheShell().canvas, WM_KEYDOWN, VK_PRIOR, 0, 0, {}};
+    EXPECT_TRUE(::TranslateAcceleratorW(key.hwnd, TheShell().accelerators, &key));
+    Pump();
+    EXPECT_EQ(Doc().CurrentLayer().ChildAt(0), Doc().Selection()[0]); // one step back
+    keys[VK_CONTROL] = 0;
+    ::SetKeyboardState(keys);
+    key.wParam = VK_DELETE;
+    EXPECT_TRUE(::TranslateAcceleratorW(key.hwnd, TheShell().accelerators, &key));
+    Pump();
+    EXPECT_EQ(Doc().CurrentLayer().ChildCount(), 1u);
+    // No undo: the id changes nothing and repaints nothing.
+    ::ValidateRect(TheShell().canvas, nullptr);
+    Command(IDM_UNDO);
+    EXPECT_FALSE(::GetUpdateRect(TheShell().canvas, nullptr, FALSE));
+    EXPECT_EQ(Doc().CurrentLayer().ChildCount(), 1u);
+    Command(IDM_DELETE);
+    EXPECT_TRUE(::GetUpdateRect(TheShell().canvas, nullptr, FALSE));
+}
+
+TEST_F(EditorShell, SettingsSwitchTheGuidesOnlyOnOk) {
+    const DisplaySwitches start = TheEditor().view.switches;
+    EXPECT_TRUE(start.isometricLines && start.pageFrame && !start.coordinateCross);
+    ModalDriver driver;
+    driver.Then([](HWND dialog) {
+        ::SendMessageW(::GetDlgItem(dialog, IDC_SHOW_CROSS), BM_CLICK, 0, 0);
+        ModalDriver::Press(dialog, IDCANCEL);
+    });
+    Command(IDM_SETTINGS);
+    Pump();
+    EXPECT_FALSE(TheEditor().view.switches.coordinateCross);
+    driver.Then([](HWND dialog) {
+        EXPECT_EQ(ModalDriver::Caption(dialog), "Einstellungen");
+        ::SendMessageW(::GetDlgItem(dialog, IDC_SHOW_CROSS), BM_CLICK, 0, 0);
+        ::SendMessageW(::GetDlgItem(dialog, IDC_SHOW_ISO_LINES), BM_CLICK, 0, 0);
+        ModalDriver::Press(dialog, IDOK);
+    });
+    Command(IDM_SETTINGS);
+    EXPECT_TRUE(TheEditor().view.switches.coordinateCross);
+    EXPECT_FALSE(TheEditor().view.switches.isometricLines);
+
+    driver.Then([](HWND dialog) {
+        EXPECT_EQ(ModalDriver::Caption(dialog), "Online-Hilfe");
+        EXPECT_NE(ModalDriver::Texts(dialog).find("Rhomba Version 1.1"), std::string::npos);
+        ModalDriver::Press(dialog, IDOK);
+    });
+    Command(IDM_ABOUT);
+    EXPECT_TRUE(driver.Done());
+}
+
+// The status strip and the zoom field show the view in German number style.
+TEST_F(EditorShell, StatusFieldsAndZoomField) {
+    ShowCursorPoints(12.345, -0.005);
+    ShowCursorMillimetres(28.34653369727658, 0);
+    SetStatusTextF("dx: %g   dy: %g", 1.5, 2.0);
+    EXPECT_EQ(ModalDriver::Text(::GetDlgItem(TheShell().status, IDC_STATUS_POINTS)), "pt: 12,35  -0,01");
+    EXPECT_EQ(ModalDriver::Text(::GetDlgItem(TheShell().status, IDC_STATUS_MILLIMETRES)), "mm: 10,00  0,00");
+    EXPECT_EQ(ModalDriver::Text(::GetDlgItem(TheShell().status, IDC_STATUS_TEXT)), "dx: 1.5   dy: 2");
+    TheEditor().view.SetZoom(0.995, 0, 0);
+    UpdateZoomField();
+    EXPECT_EQ(ModalDriver::Text(::GetDlgItem(TheShell().palette, IDC_ZOOM)), "100 %");
+
+    // Minimised, the children keep their places; restored, they follow the window again.
+    RECT before{};
+    ::GetWindowRect(TheShell().canvas, &before);
+    ::ShowWindow(TheShell().main, SW_MINIMIZE);
+    RECT minimised{};
+    ::GetWindowRect(TheShell().canvas, &minimised);
+    EXPECT_EQ(minimised.right - minimised.left, before.right - before.left);
+    ::ShowWindow(TheShell().main, SW_RESTORE);
 }
 
 } // namespace

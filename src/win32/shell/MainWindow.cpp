@@ -5,13 +5,25 @@
 #include "ui/resource.h"
 #include "win32/shell/Shell.h"
 
+#include <algorithm>
+
 namespace rhomba {
 
 namespace {
 
-// The status strip takes nothing but its initial focus.
-INT_PTR CALLBACK StatusStripProc(HWND, UINT message, WPARAM, LPARAM) {
-    return message == WM_INITDIALOG ? TRUE : FALSE;
+// The status strip takes its initial focus; its message field reaches to the right edge however
+// wide the window is.
+INT_PTR CALLBACK StatusStripProc(HWND strip, UINT message, WPARAM, LPARAM lParam) {
+    if (message == WM_INITDIALOG) return TRUE;
+    if (message == WM_SIZE) {
+        HWND text = ::GetDlgItem(strip, IDC_STATUS_TEXT);
+        RECT box{};
+        ::GetWindowRect(text, &box);
+        ::MapWindowPoints(nullptr, strip, reinterpret_cast<POINT*>(&box), 2);
+        const int right = std::max<int>(box.left + 1, LOWORD(lParam) - 1);
+        ::MoveWindow(text, box.left, box.top, right - box.left, box.bottom - box.top, TRUE);
+    }
+    return FALSE;
 }
 
 void RegisterCanvasClass(HINSTANCE instance) {
