@@ -12,8 +12,8 @@ inline constexpr int kZigzagPaths = 1000;
 inline constexpr int kZigzagNodesPerPath = 100;
 
 // Zigzag figures of lines and curves over an A4 page, every fifth path dashed; nothing selected.
-inline void BuildZigzagDrawing(Document& document) {
-    for (int p = 0; p < kZigzagPaths; ++p) {
+inline void BuildZigzagDrawing(Document& document, int paths = kZigzagPaths) {
+    for (int p = 0; p < paths; ++p) {
         auto path = std::make_unique<PathObject>();
         path->ReserveNodes(kZigzagNodesPerPath);
         const double y0 = 20 + (p % 80) * 10, x0 = 20 + (p / 80) * 40;

@@ -17,6 +17,7 @@ packages=(
     libfreetype-dev
     libfontconfig-dev
     fonts-liberation           # metric-compatible stand-ins for the Windows fonts
+    fonts-wine                 # the symbols Wine draws window frames with
     zlib1g-dev
     libxml2-utils              # xmllint, checks exported SVG
     librsvg2-bin               # rsvg-convert, renders exported SVG
