@@ -157,6 +157,16 @@ TEST_F(EditorShell, AcceleratorsFromTheCanvasReachTheCommands) {
     EXPECT_TRUE(::TranslateAcceleratorW(key.hwnd, TheShell().accelerators, &key));
     Pump();
     EXPECT_EQ(Doc().CurrentLayer().ChildCount(), 1u);
+    // Alt+7 opens the about box: the key goes to the accelerators first, then its character.
+    ModalDriver driver;
+    driver.Answer(IDOK);
+    for (UINT typed : {WM_SYSKEYDOWN, WM_SYSCHAR}) {
+        MSG key7{TheShell().main, typed, '7', 1 << 29, 0, {}};
+        if (::TranslateAcceleratorW(key7.hwnd, TheShell().accelerators, &key7)) break;
+    }
+    Pump();
+    ASSERT_EQ(driver.seen.size(), 1u);
+    EXPECT_EQ(driver.seen[0].substr(0, 13), "Online-Hilfe|");
     // No undo: the id changes nothing and repaints nothing.
     ::ValidateRect(TheShell().canvas, nullptr);
     Command(IDM_UNDO);
@@ -207,6 +217,15 @@ TEST_F(EditorShell, StatusFieldsAndZoomField) {
     TheEditor().view.SetZoom(0.995, 0, 0);
     UpdateZoomField();
     EXPECT_EQ(ModalDriver::Text(::GetDlgItem(TheShell().palette, IDC_ZOOM)), "100 %");
+
+    // The zoom field opens its menu of steps as soon as it gets the focus, and gives the focus back.
+    ModalDriver driver;
+    driver.ChooseMenuEntry(6); // "200 %"
+    ::SetFocus(::GetDlgItem(TheShell().palette, IDC_ZOOM));
+    EXPECT_TRUE(driver.Done());
+    EXPECT_EQ(TheEditor().document.view.zoom, 2.0);
+    EXPECT_EQ(ModalDriver::Text(::GetDlgItem(TheShell().palette, IDC_ZOOM)), "200 %");
+    EXPECT_EQ(::GetFocus(), TheShell().main);
 
     // Minimised, the children keep their places; restored, they follow the window again.
     RECT before{};

@@ -104,7 +104,7 @@ INT_PTR CALLBACK AboutProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
             ::EndDialog(dialog, LOWORD(wParam));
             return TRUE;
         case IDC_ABOUT_HELP:
-            ::ShellExecuteW(TheShell().main, L"open", HelpPagePath().c_str(), nullptr, nullptr, SW_SHOW);
+            ::ShellExecuteA(TheShell().main, "open", HelpPagePath().c_str(), nullptr, nullptr, SW_SHOW);
             return TRUE;
         }
         return FALSE;
@@ -134,12 +134,12 @@ void RunPrintDialogBox(HWND owner, Document& document) {
 
 void RunAboutDialogBox(HWND owner) { Modal(owner, IDD_ABOUT, AboutProc); }
 
-std::wstring HelpPagePath() {
-    wchar_t program[MAX_PATH] = {};
-    const DWORD length = ::GetModuleFileNameW(nullptr, program, MAX_PATH);
-    std::wstring path(program, length);
-    path.erase(path.find_last_of(L"\\/") + 1);
-    return path + L"rhomba-hilfe.html";
+std::string HelpPagePath() {
+    char program[MAX_PATH] = {};
+    const DWORD length = ::GetModuleFileNameA(nullptr, program, MAX_PATH);
+    std::string path(program, length);
+    path.erase(path.find_last_of("\\/") + 1);
+    return path + "rhomba-hilfe.html";
 }
 
 } // namespace rhomba

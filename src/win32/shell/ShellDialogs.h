@@ -18,6 +18,6 @@ void RunPrintDialogBox(HWND owner, Document& document);
 void RunAboutDialogBox(HWND owner);
 
 // The help page that ships beside the program.
-std::wstring HelpPagePath();
+std::string HelpPagePath();
 
 } // namespace rhomba

@@ -28,10 +28,18 @@ public:
     ModalDriver(const ModalDriver&) = delete;
     ModalDriver& operator=(const ModalDriver&) = delete;
 
-    // Queues an action for the next modal window.
-    ModalDriver& Then(Action action) {
-        actions_.push_back(std::move(action));
+    // Queues an action for the next modal window: a dialog or message box, or with menu set, a
+    // popup menu being tracked.
+    ModalDriver& Then(Action action, bool menu = false) {
+        actions_.push_back({std::move(action), menu ? L"#32768" : L"#32770"});
         return *this;
+    }
+    // Queues: pick the entry at position in the next tracked popup menu with the keyboard.
+    ModalDriver& ChooseMenuEntry(int position) {
+        return Then([position](HWND menu) {
+            for (int i = 0; i <= position; ++i) ::PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
+            ::PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
+        }, true);
     }
     // Queues: remember the window's caption and texts, then press the button with id.
     ModalDriver& Answer(int buttonId) {
@@ -78,10 +86,15 @@ public:
     }
 
 private:
+    struct Pending {
+        Action action;
+        std::wstring windowClass;
+    };
+
     static BOOL CALLBACK FindModal(HWND window, LPARAM found) {
         wchar_t className[16] = {};
         ::GetClassNameW(window, className, 16);
-        if (::IsWindowVisible(window) && std::wstring(className) == L"#32770" &&
+        if (::IsWindowVisible(window) && className == current_->actions_.front().windowClass &&
             !current_->handled_.count(window) && (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) == 0) {
             *reinterpret_cast<HWND*>(found) = window;
             return FALSE;
@@ -96,7 +109,7 @@ private:
         ::EnumThreadWindows(::GetCurrentThreadId(), &ModalDriver::FindModal, reinterpret_cast<LPARAM>(&found));
         if (found == nullptr) return;
         driver->handled_.insert(found);
-        Action action = std::move(driver->actions_.front());
+        Action action = std::move(driver->actions_.front().action);
         driver->actions_.pop_front();
         driver->busy_ = true; // an action may open another modal window of its own
         action(found);
@@ -105,7 +118,7 @@ private:
 
     static inline ModalDriver* current_ = nullptr;
     UINT_PTR timer_ = 0;
-    std::deque<Action> actions_;
+    std::deque<Pending> actions_;
     std::set<HWND> handled_;
     bool busy_ = false;
 };
