@@ -19,6 +19,9 @@ out="$here/iso-werkstueck.rhomba"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
+# Names in the drawing are Windows-1252, as the program keeps its texts.
+cp1252() { printf '%s' "$1" | iconv -f UTF-8 -t WINDOWS-1252; }
+
 # Arithmetic on points, and points to millimetres for the move steps.
 calc() { awk "BEGIN { printf \"%.6f\", $1 }"; }
 mm() { calc "($1) / 2.834653369727658"; }
@@ -164,16 +167,14 @@ steps=()
 # place FLATX FLATY TARGETX TARGETY: moves the selection from its flat centre to its target.
 place() { steps+=("move $(mm "$3 - ($1)") $(mm "$4 - ($2)")"); }
 
-# Names in the drawing are Windows-1252, as the program keeps its texts.
-cp1252() { printf '%s' "$1" | iconv -f UTF-8 -t WINDOWS-1252; }
-
 # face NAME KIND FLATX FLATY TARGETX TARGETY [SHAPE...]: projects one named flat piece, and the
-# named shapes on it, onto a side face (links, rechts) or a top face (oben) and moves it into place. The
-# face is selected first, so that the group the projection makes draws the shape over it.
+# named shapes on it, onto a side face (links, rechts) or a top face (oben) and moves it into
+# place. The face is selected first, so that the group the projection makes draws the shapes over
+# it.
 face() {
     steps+=(deselect "select name $(cp1252 "$1")")
     local shape
-    for shape in "${@:7}"; do steps+=("select name $shape"); done
+    for shape in "${@:7}"; do steps+=("select name $(cp1252 "$shape")"); done
     case $2 in
     links | rechts) steps+=("iso $2") ;;
     oben) steps+=("shear -45 0" "stretch 100 86.60254" "iso rechts") ;;
@@ -195,7 +196,7 @@ steps+=("select name Text links" "select name Text rechts" "select name Text obe
 cx=220 cy=430 s=160
 # shape NAME X Y STEP: generates a shape (about the origin), names it and moves it to (X, Y).
 shape() {
-    steps+=("$4" "prop SetName $1" "prop SetFillColor FFFFFF" "prop SetPenWidth 1" \
+    steps+=("$4" "prop SetName $(cp1252 "$1")" "prop SetFillColor FFFFFF" "prop SetPenWidth 1" \
         "move $(mm "$2") $(mm "$3")")
 }
 shape Sechseck 120 722 "polygon 6 16 top 0 1 1"
@@ -204,8 +205,8 @@ shape Senkung 298 722 "circle 17 0 0 0 0"
 shape Bohrung 298 722 "circle 9 0 0 0 1"
 face "Würfel rechts" rechts 298 700 "$(isox $cx $cy $s/2 0)" "$(isoy $cx $cy $s/2 0 $s/2)" \
     Senkung Bohrung
-shape Fuenfeck 476 722 "polygon 5 17 top 0 1 1"
-face "Würfel oben" oben 476 700 "$(isox $cx $cy $s/2 $s/2)" "$(isoy $cx $cy $s/2 $s/2 $s)" Fuenfeck
+shape Fünfeck 476 722 "polygon 5 17 top 0 1 1"
+face "Würfel oben" oben 476 700 "$(isox $cx $cy $s/2 $s/2)" "$(isoy $cx $cy $s/2 $s/2 $s)" Fünfeck
 
 # Cylinder: wrapped once round, turned by -45 degrees, not foreshortened, shrunk to its size; its
 # axis centre goes from (180 k, 75 k) to (462, 520).
