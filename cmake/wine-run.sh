@@ -56,6 +56,12 @@ if [[ ! -f "$prefix/system.reg" ]]; then
 fi
 # Windows are left unmanaged: on a virtual display without a window manager Wine otherwise
 # waits two seconds for every hidden window to be withdrawn. Wine then draws the frames itself.
+# The frame buttons are drawn with the Marlett symbol font, which Debian ships beside Wine but
+# does not put into a new prefix.
+marlett=/usr/share/wine/fonts/marlett.ttf
+if [[ -f $marlett && ! -f "$prefix/drive_c/windows/Fonts/marlett.ttf" ]]; then
+    mkdir -p "$prefix/drive_c/windows/Fonts" && cp "$marlett" "$prefix/drive_c/windows/Fonts/"
+fi
 if [[ ! -f "$prefix/.rhomba-unmanaged" ]]; then
     "${wine[@]}" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1 9>&- \
         && touch "$prefix/.rhomba-unmanaged"
