@@ -3,8 +3,9 @@
 
 Usage: scripts/make-art.py [repository root]
 
-Icons are 32-bit with alpha plus an AND mask, anti-aliased by 4x4 supersampling. Cursors are
-32x32 monochrome (black, white, transparent, inverted), drawn on the pixel grid so that they stay
+Icons are 32-bit with alpha plus an AND mask, anti-aliased by 4x4 supersampling: the application
+icon at 48, 32 and 16 pixels (the small one at 16), the tool icons at 32 and 24. Cursors are
+32x32 monochrome (black, white, transparent), drawn on the pixel grid so that they stay
 sharp. Every picture is designed on a 32-unit square and scaled to the size it is rendered at.
 Only the standard library is used; the generated files are committed, so the build needs no
 Python.
@@ -216,7 +217,7 @@ def write_ico(path, pictures):
 
 
 # ---------------------------------------------------------------------------------------------
-# Monochrome cursors: a character grid of '.', 'B' (black), 'W' (white) and 'I' (inverted screen).
+# Monochrome cursors: a character grid of '.' (transparent), 'B' (black) and 'W' (white).
 
 
 def pixel_mask(shape):
@@ -249,15 +250,12 @@ class CursorGrid:
         self.put(inner, 'W')
         self.put(inner - {p for p in inner if all(q in inner for q in neighbours({p}))}, 'B')
 
-    def invert(self, points):
-        self.put(points, 'I')
-
 
 def write_cur(path, grid, hotspot):
     size = 32
-    # XOR bit 1 = white (or invert where the AND bit is set); AND bit 1 = screen shows through.
-    xor_bits = {'.': 0, 'B': 0, 'W': 1, 'I': 1}
-    and_bits = {'.': 1, 'B': 0, 'W': 0, 'I': 1}
+    # XOR bit 1 = white; AND bit 1 = the screen shows through.
+    xor_bits = {'.': 0, 'B': 0, 'W': 1}
+    and_bits = {'.': 1, 'B': 0, 'W': 0}
     stride = 4
 
     def plane(table):
@@ -521,7 +519,8 @@ def main():
                          ('zoom', tool_zoom()), ('path', tool_path()), ('node', tool_node()),
                          ('text', tool_text()), ('rect', tool_rect()),
                          ('ellipse', tool_ellipse())):
-        write_ico(os.path.join(icons, 'tool-%s.ico' % name), [(32, layers)])
+        # 24 pixels as well, for palette buttons narrower than 32 pixels.
+        write_ico(os.path.join(icons, 'tool-%s.ico' % name), [(32, layers), (24, layers)])
     for name, make in (('scroll', cursor_scroll), ('path', cursor_path), ('node', cursor_node),
                        ('move', cursor_move), ('zoom', cursor_zoom), ('text', cursor_text),
                        ('rect', cursor_rect), ('ellipse', cursor_ellipse)):
