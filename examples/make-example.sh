@@ -31,7 +31,8 @@ mm() { calc "($1) / 2.834653369727658"; }
 polyline() {
     awk -v x0="$1" -v y0="$2" -v x1="$3" -v y1="$4" -v n="$5" 'BEGIN {
         printf "M\t%g\t%g\r\n", x0, y0
-        for (i = 1; i <= n; i++) printf "L\t%g\t%g\r\n", x0 + (x1 - x0) * i / n, y0 + (y1 - y0) * i / n
+        for (i = 1; i <= n; i++)
+            printf "L\t%g\t%g\r\n", x0 + (x1 - x0) * i / n, y0 + (y1 - y0) * i / n
     }'
 }
 
@@ -60,7 +61,8 @@ k=6
 {
     lines 'Rhomba Version 1.0' '' 'Layer EVP Werkstück' ''
 
-    # Sheet frame (20 mm binding margin on the left, 10 mm elsewhere) and title block; these stay flat.
+    # Sheet frame (20 mm binding margin on the left, 10 mm elsewhere) and title block; these stay
+    # flat.
     lines 'Group Blatt' '' 'PathObject Rahmen' 'StrokeColor 1E2A38' 'PenWidth 1.2'
     box 56.69 28.35 566.93 813.54
     lines S '' 'PenWidth 0.7'
@@ -69,13 +71,15 @@ k=6
     lines 'M	311.81	56.69' 'L	566.93	56.69' 'M	396.85	28.35' 'L	396.85	56.69' \
         'M	481.89	28.35' 'L	481.89	56.69' S ''
     lines 'FillColor 1E2A38' 'TextFont n Arial' 'TextSize 7' \
-        'Text F 316 76 Benennung' 'Text F 316 48 Maßstab' 'Text F 401 48 Format' 'Text F 486 48 Blatt' \
+        'Text F 316 76 Benennung' 'Text F 316 48 Maßstab' 'Text F 401 48 Format' \
+        'Text F 486 48 Blatt' \
         'TextFont b Arial' 'TextSize 12' 'Text F 316 62 Isometrisches Werkstück' \
         'TextSize 10' 'Text F 316 34 1 : 1' 'Text F 401 34 A4' 'Text F 486 34 1 / 1' \
         'TextFont n Arial' 'TextSize 7' 'Text F 486 76 Rhomba' ''
     lines 'TextFont b Arial' 'TextSize 20' 'Text F 76 784 Isometrisches Werkstück' \
         'TextFont n Arial' 'TextSize 9' \
-        'Text F 76 770 Aus einer flachen Vorlage mit rhomba-cli projiziert, gewickelt und ergänzt' ''
+        'Text F 76 770 Aus einer flachen Vorlage mit rhomba-cli projiziert, gewickelt und ergänzt' \
+        ''
     lines 'GroupEnd' ''
 
     # Cube faces, 160 x 160 each, laid out side by side.
@@ -85,7 +89,8 @@ k=6
         'Text F 81 640 LINKS' '' 'GroupEnd' ''
     lines 'Group Würfel rechts' '' 'FillColor 8DB6DD'
     box 218 620 378 780
-    lines B '' 'FillColor 1E2A38' 'TextObject Text rechts' 'Text F 244.6 640 RECHTS' '' 'GroupEnd' ''
+    lines B '' 'FillColor 1E2A38' 'TextObject Text rechts' 'Text F 244.6 640 RECHTS' '' \
+        'GroupEnd' ''
     lines 'Group Würfel oben' '' 'FillColor DCEBF7'
     box 396 620 556 780
     lines B '' 'FillColor 1E2A38' 'TextObject Text oben' 'Text F 438.4 640 OBEN' '' 'GroupEnd' ''
@@ -96,8 +101,10 @@ k=6
     # the sheet to the front; the outlines are then a quarter of the width from either end, and
     # everything between them is the visible half.
     lines 'Group Zylinder' '' 'PathObject Mantel' 'FillColor D9DEE4'
-    { polyline $((90 * k)) 0 $((270 * k)) 0 72; polyline $((270 * k)) $((150 * k)) $((90 * k)) $((150 * k)) 72 |
-        sed '1s/^M/L/'; }
+    {
+        polyline $((90 * k)) 0 $((270 * k)) 0 72
+        polyline $((270 * k)) $((150 * k)) $((90 * k)) $((150 * k)) 72 | sed '1s/^M/L/'
+    }
     lines ClosePath F ''
     lines 'PathObject Deckfläche' 'StrokeColor 1E2A38' 'PenWidth 1.2' 'FillColor EEF1F4'
     polyline 0 $((150 * k)) $((360 * k)) $((150 * k)) 144
@@ -112,7 +119,9 @@ k=6
     polyline $((90 * k)) $((118 * k)) $((270 * k)) $((118 * k)) 72
     lines S ''
     lines 'PathObject Rauten' 'FillColor 2F6FB5'
-    for x in 120 140 160 180 200 220 240; do diamond $((x * k)) $((75 * k)) $((14 * k)) $((30 * k)); done
+    for x in 120 140 160 180 200 220 240; do
+        diamond $((x * k)) $((75 * k)) $((14 * k)) $((30 * k))
+    done
     lines B '' 'GroupEnd' ''
 
     # Exploded part: base plate 120 x 80 x 40 and lid 120 x 80 x 22, faces laid out flat.
@@ -227,7 +236,8 @@ face "Deckel oben" oben 340 390 "$(isox $px $ly $L/2 $D/2)" "$(isoy $px $ly $L/2
 
 # Sine curve of one full wave, amplitude 13 mm, with axes and 90-degree ticks, projected with its
 # board onto a right face. The board is selected first, so that it lies behind the curve.
-steps+=("sine 13 0 360 1 1" "prop SetName Sinus" "prop SetStrokeColor B03A2E" "prop SetPenWidth 1.2" \
+steps+=("sine 13 0 360 1 1" "prop SetName Sinus" "prop SetStrokeColor B03A2E" \
+    "prop SetPenWidth 1.2" \
     deselect "select name Tafel" "select name Sinus" "iso rechts")
 place 116 0 185 255
 steps+=(deselect)

@@ -3,8 +3,9 @@
 
 Usage: scripts/make-art.py [repository root]
 
-Icons are 32-bit with alpha plus an AND mask, anti-aliased by 4x4 supersampling. Cursors are
-32x32 monochrome (black, white, transparent, inverted), drawn on the pixel grid so that they stay
+Icons are 32-bit with alpha plus an AND mask, anti-aliased by 4x4 supersampling: the application
+icon at 48, 32 and 16 pixels (the small one at 16), the tool icons at 32 and 24. Cursors are
+32x32 monochrome (black, white, transparent), drawn on the pixel grid so that they stay
 sharp. Every picture is designed on a 32-unit square and scaled to the size it is rendered at.
 Only the standard library is used; the generated files are committed, so the build needs no
 Python.
@@ -106,10 +107,12 @@ class Inset(Shape):
     def __init__(self, shape, d):
         self.shape, self.d = shape, d
         self.bbox = shape.bbox
-        self.probes = [(d * math.cos(a * math.pi / 8), d * math.sin(a * math.pi / 8)) for a in range(16)]
+        self.probes = [(d * math.cos(a * math.pi / 8), d * math.sin(a * math.pi / 8))
+                       for a in range(16)]
 
     def contains(self, x, y):
-        return self.shape.contains(x, y) and all(self.shape.contains(x + ox, y + oy) for ox, oy in self.probes)
+        return self.shape.contains(x, y) and all(self.shape.contains(x + ox, y + oy)
+                                                 for ox, oy in self.probes)
 
 
 def stroke(points, width, closed=False):
@@ -131,14 +134,10 @@ def bezier(p0, p1, p2, p3, steps=24):
     for i in range(steps + 1):
         t = i / steps
         u = 1 - t
-        out.append((u * u * u * p0[0] + 3 * u * u * t * p1[0] + 3 * u * t * t * p2[0] + t * t * t * p3[0],
-                    u * u * u * p0[1] + 3 * u * u * t * p1[1] + 3 * u * t * t * p2[1] + t * t * t * p3[1]))
+        w = (u * u * u, 3 * u * u * t, 3 * u * t * t, t * t * t)
+        out.append((w[0] * p0[0] + w[1] * p1[0] + w[2] * p2[0] + w[3] * p3[0],
+                    w[0] * p0[1] + w[1] * p1[1] + w[2] * p2[1] + w[3] * p3[1]))
     return out
-
-
-def ellipse_points(cx, cy, rx, ry, steps=48):
-    return [(cx + rx * math.cos(2 * math.pi * i / steps), cy + ry * math.sin(2 * math.pi * i / steps))
-            for i in range(steps)]
 
 
 def moved(points, dx, dy, scale=1.0):
@@ -218,7 +217,7 @@ def write_ico(path, pictures):
 
 
 # ---------------------------------------------------------------------------------------------
-# Monochrome cursors: a character grid of '.', 'B' (black), 'W' (white) and 'I' (inverted screen).
+# Monochrome cursors: a character grid of '.' (transparent), 'B' (black) and 'W' (white).
 
 
 def pixel_mask(shape):
@@ -251,15 +250,12 @@ class CursorGrid:
         self.put(inner, 'W')
         self.put(inner - {p for p in inner if all(q in inner for q in neighbours({p}))}, 'B')
 
-    def invert(self, points):
-        self.put(points, 'I')
-
 
 def write_cur(path, grid, hotspot):
     size = 32
-    # XOR bit 1 = white (or invert where the AND bit is set); AND bit 1 = screen shows through.
-    xor_bits = {'.': 0, 'B': 0, 'W': 1, 'I': 1}
-    and_bits = {'.': 1, 'B': 0, 'W': 0, 'I': 1}
+    # XOR bit 1 = white; AND bit 1 = the screen shows through.
+    xor_bits = {'.': 0, 'B': 0, 'W': 1}
+    and_bits = {'.': 1, 'B': 0, 'W': 0}
     stride = 4
 
     def plane(table):
@@ -313,7 +309,8 @@ def app_icon(small=False):
         q = [(mx, my - 3), (mx + 6, my), (mx, my + 3), (mx - 6, my)]
         layers.append((stroke(q, 1.0, closed=True), WHITE))
     edges = [t, r, lr, b, ll, l]
-    layers.append((stroke(edges, outline, closed=True) | stroke([l, c, r], inner) | stroke([c, b], inner), INK))
+    lines = stroke(edges, outline, closed=True) | stroke([l, c, r], inner) | stroke([c, b], inner)
+    layers.append((lines, INK))
     return layers
 
 
@@ -458,8 +455,10 @@ def four_way_arrow(cx, cy, arm, head, shaft):
         px, py = -dy, dx
         parts.append(Polygon([tip, (base[0] + px * head, base[1] + py * head),
                               (base[0] - px * head, base[1] - py * head)]))
-        parts.append(Polygon([(cx + px * shaft, cy + py * shaft), (base[0] + px * shaft, base[1] + py * shaft),
-                              (base[0] - px * shaft, base[1] - py * shaft), (cx - px * shaft, cy - py * shaft)]))
+        parts.append(Polygon([(cx + px * shaft, cy + py * shaft),
+                              (base[0] + px * shaft, base[1] + py * shaft),
+                              (base[0] - px * shaft, base[1] - py * shaft),
+                              (cx - px * shaft, cy - py * shaft)]))
     return Union(parts)
 
 
@@ -493,7 +492,8 @@ def cursor_text():
 def cursor_rect():
     g = CursorGrid()
     crosshair(g, 8, 8)
-    g.halo(rect(15, 17, 29, 18) | rect(15, 27, 29, 28) | rect(15, 17, 16, 28) | rect(28, 17, 29, 28))
+    g.halo(rect(15, 17, 29, 18) | rect(15, 27, 29, 28) | rect(15, 17, 16, 28) |
+           rect(28, 17, 29, 28))
     return g, (8, 8)
 
 
@@ -505,18 +505,22 @@ def cursor_ellipse():
 
 
 def main():
-    root = sys.argv[1] if len(sys.argv) > 1 else os.path.join(os.path.dirname(os.path.abspath(__file__)), '..')
+    here = os.path.dirname(os.path.abspath(__file__))
+    root = sys.argv[1] if len(sys.argv) > 1 else os.path.join(here, '..')
     icons = os.path.join(root, 'resources', 'icons')
     cursors = os.path.join(root, 'resources', 'cursors')
     os.makedirs(icons, exist_ok=True)
     os.makedirs(cursors, exist_ok=True)
 
-    write_ico(os.path.join(icons, 'app.ico'), [(48, app_icon()), (32, app_icon()), (16, app_icon(True))])
+    write_ico(os.path.join(icons, 'app.ico'),
+              [(48, app_icon()), (32, app_icon()), (16, app_icon(True))])
     write_ico(os.path.join(icons, 'app-small.ico'), [(16, app_icon(True))])
-    for name, layers in (('select', tool_select()), ('scroll', tool_scroll()), ('zoom', tool_zoom()),
-                         ('path', tool_path()), ('node', tool_node()), ('text', tool_text()),
-                         ('rect', tool_rect()), ('ellipse', tool_ellipse())):
-        write_ico(os.path.join(icons, 'tool-%s.ico' % name), [(32, layers)])
+    for name, layers in (('select', tool_select()), ('scroll', tool_scroll()),
+                         ('zoom', tool_zoom()), ('path', tool_path()), ('node', tool_node()),
+                         ('text', tool_text()), ('rect', tool_rect()),
+                         ('ellipse', tool_ellipse())):
+        # 24 pixels as well, for palette buttons narrower than 32 pixels.
+        write_ico(os.path.join(icons, 'tool-%s.ico' % name), [(32, layers), (24, layers)])
     for name, make in (('scroll', cursor_scroll), ('path', cursor_path), ('node', cursor_node),
                        ('move', cursor_move), ('zoom', cursor_zoom), ('text', cursor_text),
                        ('rect', cursor_rect), ('ellipse', cursor_ellipse)):
