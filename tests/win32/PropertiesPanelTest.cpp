@@ -26,6 +26,8 @@ protected:
         Doc().ClearSelection();
         for (GraphicObject* object : objects) Doc().AddToSelection(object);
         RefreshPropertiesPanel();
+        ::Sleep(20); // the coordinate list comes with a timer
+        Pump();
     }
     // Into the field with the keyboard and the text typed; Leave goes back to the drawing.
     static void Enter(int page, int id, const wchar_t* text) {

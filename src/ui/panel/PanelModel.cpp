@@ -93,6 +93,19 @@ std::string ShowSize(double size) {
     return shown;
 }
 
+// Writes only what differs: every write to a shown control costs the platform a repaint.
+void Put(DialogFields& page, int id, std::string_view text) {
+    if (page.GetText(id) != text) page.SetText(id, text);
+}
+
+void PutCheck(DialogFields& page, int id, bool on) {
+    if (page.IsChecked(id) != on) page.SetChecked(id, on);
+}
+
+void PutEnabled(DialogFields& page, int id, bool on) {
+    if (page.IsEnabled(id) != on) page.Enable(id, on);
+}
+
 } // namespace
 
 std::string PenWidthCommand(std::string_view typed) { return "SetPenWidth " + FormatG(ReadNumber(typed)); }
@@ -177,20 +190,41 @@ PanelLayout PanelModel::Refresh() {
     ++writing_;
     FillStyle(layout.editable);
 
-    const auto* path = static_cast<const PathObject*>(SingleSelected(document_, ObjectKind::Path));
-    Page(kPagePoints).SetText(IDC_PANEL_POINTS, path != nullptr ? FormatPointList(*path) : std::string());
-    Page(kPagePoints).SetText(IDC_PANEL_POINTS_STATE, kPointsUnchanged);
+    // A path's list stays until FillPointList replaces it, which costs nothing when it is the same.
+    if (!layout.shown[kPagePoints]) Put(Page(kPagePoints), IDC_PANEL_POINTS, {});
+    Put(Page(kPagePoints), IDC_PANEL_POINTS_STATE, kPointsUnchanged);
 
     FillFont();
     const auto* text = static_cast<const TextObject*>(SingleSelected(document_, ObjectKind::Text));
-    Page(kPageText).SetText(IDC_PANEL_TEXT, text != nullptr ? text->GetText() : std::string());
+    Put(Page(kPageText), IDC_PANEL_TEXT, text != nullptr ? text->GetText() : std::string());
     const GraphicObject* hotspot = SingleSelected(document_, ObjectKind::Hotspot);
-    Page(kPageHotspot).SetText(IDC_PANEL_HOTSPOT_NAME, hotspot != nullptr ? hotspot->GetName() : std::string());
+    Put(Page(kPageHotspot), IDC_PANEL_HOTSPOT_NAME, hotspot != nullptr ? hotspot->GetName() : std::string());
     --writing_;
 
     dashChanged_.fill(false);
     penWidthChanged_ = pointsChanged_ = sizeChanged_ = fontChanged_ = false;
     return layout;
+}
+
+void PanelModel::FillPointList() {
+    const auto* path = static_cast<const PathObject*>(SingleSelected(document_, ObjectKind::Path));
+    if (path == nullptr) return;
+    DialogFields& page = Page(kPagePoints);
+    const bool whole = path->NodeCount() <= kListedNodes;
+    std::string list;
+    if (whole) {
+        list = FormatPointList(*path);
+    } else {
+        PathObject head;
+        head.ReserveNodes(kListedNodes);
+        for (std::size_t i = 0; i < kListedNodes; ++i) head.AddNode(path->PointAt(i), path->TypeAt(i));
+        list = FormatPointList(head) + "...\r\n";
+    }
+    ++writing_;
+    Put(page, IDC_PANEL_POINTS, list);
+    PutEnabled(page, IDC_PANEL_POINTS, whole);
+    --writing_;
+    pointsChanged_ = false;
 }
 
 void PanelModel::FillStyle(bool editable) {
@@ -201,13 +235,13 @@ void PanelModel::FillStyle(bool editable) {
         first->GetDashDot(dash);
         colours_ = {first->GetStrokeColor(), first->GetFillColor()};
     }
-    page.SetText(IDC_PANEL_PEN_WIDTH, first != nullptr ? ShowNumber(first->GetPenWidth()) : std::string());
-    page.SetChecked(IDC_PANEL_STROKE, first != nullptr && first->HasStroke());
-    page.SetChecked(IDC_PANEL_FILL, first != nullptr && first->HasFill());
+    Put(page, IDC_PANEL_PEN_WIDTH, first != nullptr ? ShowNumber(first->GetPenWidth()) : std::string());
+    PutCheck(page, IDC_PANEL_STROKE, first != nullptr && first->HasStroke());
+    PutCheck(page, IDC_PANEL_FILL, first != nullptr && first->HasFill());
     for (int i = 0; i < kDashFields; ++i) {
-        page.SetText(IDC_PANEL_DASH_FIRST + i, first != nullptr ? std::to_string(dash[i]) : std::string());
+        Put(page, IDC_PANEL_DASH_FIRST + i, first != nullptr ? std::to_string(dash[i]) : std::string());
     }
-    for (int id = IDC_PANEL_PEN_WIDTH; id <= IDC_PANEL_DASH_LAST; ++id) page.Enable(id, editable);
+    for (int id = IDC_PANEL_PEN_WIDTH; id <= IDC_PANEL_DASH_LAST; ++id) PutEnabled(page, id, editable);
     page.Invalidate(IDC_PANEL_STROKE_COLOUR);
     page.Invalidate(IDC_PANEL_FILL_COLOUR);
 }
@@ -215,10 +249,10 @@ void PanelModel::FillStyle(bool editable) {
 void PanelModel::FillFont() {
     DialogFields& page = Page(kPageFont);
     const auto* text = static_cast<const TextObject*>(FirstSelectedLeaf(document_, true));
-    page.SetText(IDC_PANEL_TEXT_SIZE, text != nullptr ? ShowSize(text->GetSize()) : std::string());
-    page.SetText(IDC_PANEL_FONT_NAME, text != nullptr ? text->GetFont() : std::string());
-    page.SetChecked(IDC_PANEL_BOLD, text != nullptr && text->IsBold());
-    page.SetChecked(IDC_PANEL_ITALIC, text != nullptr && text->IsItalic());
+    Put(page, IDC_PANEL_TEXT_SIZE, text != nullptr ? ShowSize(text->GetSize()) : std::string());
+    Put(page, IDC_PANEL_FONT_NAME, text != nullptr ? text->GetFont() : std::string());
+    PutCheck(page, IDC_PANEL_BOLD, text != nullptr && text->IsBold());
+    PutCheck(page, IDC_PANEL_ITALIC, text != nullptr && text->IsItalic());
 }
 
 void PanelModel::OnCommand(int page, int id, int code) {

@@ -74,8 +74,16 @@ public:
 
     PanelModel(Document& document, const Pages& pages, std::function<void()> redraw);
 
-    // Fills every page from the current selection and forgets unapplied edits.
+    // The coordinate list shows at most this many nodes; a longer path's list is shown cut short
+    // and cannot be edited (a text field of hundreds of thousands of lines helps nobody and takes
+    // seconds to fill).
+    static constexpr std::size_t kListedNodes = 1000;
+
+    // Fills every page from the current selection and forgets unapplied edits, all but the
+    // coordinate list: FillPointList fills that, which the platform does once the canvas is
+    // painted.
     PanelLayout Refresh();
+    void FillPointList();
     // A control's notification on one page: a change, a focus loss or a click.
     void OnCommand(int page, int id, int code);
 

@@ -10,6 +10,7 @@ namespace rhomba {
 namespace {
 
 constexpr int kMargin = 4; // pixels between the frame and the canvas's edges
+constexpr UINT_PTR kPointListTimer = 1;
 
 PanelWindow* Owner(HWND window) { return reinterpret_cast<PanelWindow*>(::GetWindowLongPtrW(window, DWLP_USER)); }
 
@@ -54,14 +55,22 @@ PanelWindow::PanelWindow(HWND owner, HWND canvas, Document& document, std::funct
         PanelModel::Pages{&fields_[0], &fields_[1], &fields_[2], &fields_[3], &fields_[4]},
         std::move(redraw));
 
-    // At the right edge of the canvas, where the page, which starts at the left, shows least.
+    Place();
+}
+
+// At the right edge of the canvas, where the page, which starts at the left, shows least.
+void PanelWindow::Place() {
+    HWND owner = ::GetParent(frame_);
     RECT area{}, outer{};
-    ::GetWindowRect(canvas, &area);
+    ::GetWindowRect(canvas_, &area);
     ::MapWindowPoints(nullptr, owner, reinterpret_cast<POINT*>(&area), 2);
     ::GetWindowRect(frame_, &outer);
-    const int width = outer.right - outer.left;
-    const int x = std::max<int>(area.left, area.right - width - kMargin);
-    ::SetWindowPos(frame_, HWND_TOP, x, area.top + kMargin, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+    ::MapWindowPoints(nullptr, owner, reinterpret_cast<POINT*>(&outer), 2);
+    const int x = std::max<int>(area.left, area.right - (outer.right - outer.left) - kMargin);
+    const int y = area.top + kMargin;
+    if (x != outer.left || y != outer.top) {
+        ::SetWindowPos(frame_, HWND_TOP, x, y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+    }
 }
 
 PanelWindow::~PanelWindow() {
@@ -72,9 +81,14 @@ PanelWindow::~PanelWindow() {
 void PanelWindow::Refresh() {
     if (frame_ == nullptr) return;
     const PanelLayout layout = model_->Refresh();
+    // Until the user moves it, the panel follows the canvas's right edge.
+    if (!movedByUser_) Place();
     Stack(layout);
+    // A timer's message comes after the paint: the drawing shows first, the long list after it.
+    if (layout.shown[kPagePoints]) ::SetTimer(frame_, kPointListTimer, 0, nullptr);
     const std::string caption = layout.title.empty() ? "Eigenschaften" : layout.title + " - Eigenschaften";
-    ::SetWindowTextW(frame_, Wide(caption).c_str());
+    if (caption != caption_) ::SetWindowTextW(frame_, Wide(caption).c_str());
+    caption_ = caption;
 }
 
 // The shown pages one below the other in page order; the coordinates page takes what is left.
@@ -128,6 +142,15 @@ INT_PTR CALLBACK PanelWindow::FrameProc(HWND frame, UINT message, WPARAM wParam,
     case WM_INITDIALOG:
         ::SetWindowLongPtrW(frame, DWLP_USER, lParam);
         return FALSE; // the canvas keeps the keyboard
+    case WM_EXITSIZEMOVE:
+        if (PanelWindow* panel = Owner(frame)) panel->movedByUser_ = true;
+        return TRUE;
+    case WM_TIMER:
+        ::KillTimer(frame, wParam);
+        if (PanelWindow* panel = Owner(frame); panel != nullptr && panel->model_ != nullptr) {
+            panel->model_->FillPointList();
+        }
+        return TRUE;
     case WM_CLOSE:
         // Closed by its own box: hidden, and the menu entry says so.
         ::ShowWindow(frame, SW_HIDE);

@@ -33,6 +33,7 @@ private:
     static INT_PTR CALLBACK FrameProc(HWND frame, UINT message, WPARAM wParam, LPARAM lParam);
     static INT_PTR CALLBACK PageProc(HWND page, UINT message, WPARAM wParam, LPARAM lParam);
     void OnPageCommand(int page, int id, int code);
+    void Place();
     void Stack(const PanelLayout& layout);
     void ReturnFocus() const;
 
@@ -42,6 +43,8 @@ private:
     std::array<int, kPanelPageCount> heights_{}; // as the templates make them, in pixels
     std::array<WindowFields, kPanelPageCount> fields_;
     std::unique_ptr<PanelModel> model_;
+    std::string caption_ = "Eigenschaften";
+    bool movedByUser_ = false;
 };
 
 // The frame of the running editor's panel; null before it is first shown (for tests).

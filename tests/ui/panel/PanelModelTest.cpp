@@ -78,7 +78,11 @@ struct Panel {
         for (int page = 0; page < kPanelPageCount; ++page) {
             fields[page].onNotify = [this, page](int id, int code) { model.OnCommand(page, id, code); };
         }
+        Refresh();
+    }
+    void Refresh() {
         model.Refresh();
+        model.FillPointList();
     }
     std::string Text(int page, int id) const { return fields[page].GetText(id); }
     void Type(int page, int id, std::string_view text) { fields[page].SetText(id, text); }
@@ -174,6 +178,18 @@ TEST(PanelModel, CoordinateListReportsChangeAndTheResultOfLeaving) {
     panel.Leave(kPagePoints, IDC_PANEL_POINTS);
     EXPECT_EQ(panel.Text(kPagePoints, IDC_PANEL_POINTS_STATE), "Fehler");
     EXPECT_EQ(path->NodeCount(), 2u);
+
+    // A long path is listed cut short, and the cut list cannot be typed back into the path.
+    for (std::size_t i = 2; i < PanelModel::kListedNodes; ++i) path->AddNode({0, 0}, node::kLineTo);
+    panel.Refresh();
+    EXPECT_EQ(panel.Text(kPagePoints, IDC_PANEL_POINTS).substr(0, 8), "M 0 0\r\nL");
+    EXPECT_EQ(panel.Text(kPagePoints, IDC_PANEL_POINTS).find("..."), std::string::npos);
+    EXPECT_TRUE(panel.fields[kPagePoints].IsEnabled(IDC_PANEL_POINTS));
+    path->AddNode({0, 0}, node::kLineTo);
+    panel.Refresh();
+    const std::string cut = panel.Text(kPagePoints, IDC_PANEL_POINTS);
+    EXPECT_EQ(cut.substr(cut.size() - 12), "L 0 0\r\n...\r\n");
+    EXPECT_FALSE(panel.fields[kPagePoints].IsEnabled(IDC_PANEL_POINTS));
 }
 
 TEST(PanelModel, FontPageTextPageAndHotspotName) {
@@ -205,7 +221,7 @@ TEST(PanelModel, FontPageTextPageAndHotspotName) {
     EXPECT_EQ(panel.Text(kPageFont, IDC_PANEL_TEXT_SIZE), "20,0");
 
     auto* hotspot = Add(doc, std::make_unique<Hotspot>());
-    panel.model.Refresh();
+    panel.Refresh();
     panel.Type(kPageHotspot, IDC_PANEL_HOTSPOT_NAME, "a b\tc");
     EXPECT_EQ(hotspot->GetName(), "a_b_c");
 }
