@@ -55,17 +55,17 @@ TEST_F(PropertiesPanel, ShowsThePagesOfTheSelectionWithoutTakingTheKeyboard) {
     EXPECT_EQ(Text(IDD_PANEL_STYLE, IDC_PANEL_PEN_WIDTH), "0,25");
     EXPECT_EQ(Text(IDD_PANEL_POINTS, IDC_PANEL_POINTS), "M 0 0\r\nL 10 0\r\nL 10 10\r\nL 0 10 Z\r\n");
 
-    Select({text});
-    EXPECT_EQ(ModalDriver::Text(PropertiesPanelFrame()), "Text - Eigenschaften");
-    EXPECT_TRUE(Shown(IDD_PANEL_FONT) && Shown(IDD_PANEL_TEXT) && !Shown(IDD_PANEL_POINTS));
-    EXPECT_EQ(Text(IDD_PANEL_TEXT, IDC_PANEL_TEXT), "Haus");
-
-    // Hidden and shown again through the menu entry, still without the keyboard.
+    // Hidden and shown again through the menu entry, catching up with the selection on the way,
+    // still without the keyboard.
     Command(IDM_PROPERTIES);
     EXPECT_FALSE(::IsWindowVisible(PropertiesPanelFrame()));
+    Select({text});
     Command(IDM_PROPERTIES);
     EXPECT_TRUE(::IsWindowVisible(PropertiesPanelFrame()));
     EXPECT_EQ(::GetFocus(), TheShell().canvas);
+    EXPECT_EQ(ModalDriver::Text(PropertiesPanelFrame()), "Text - Eigenschaften");
+    EXPECT_TRUE(Shown(IDD_PANEL_FONT) && Shown(IDD_PANEL_TEXT) && !Shown(IDD_PANEL_POINTS));
+    EXPECT_EQ(Text(IDD_PANEL_TEXT, IDC_PANEL_TEXT), "Haus");
 }
 
 TEST_F(PropertiesPanel, EditsReachObjectsInsideSelectedGroups) {
@@ -81,7 +81,9 @@ TEST_F(PropertiesPanel, EditsReachObjectsInsideSelectedGroups) {
     EXPECT_EQ(inner->GetPenWidth(), 0.5);
     EXPECT_EQ(loose->GetPenWidth(), 0.5);
 
-    // Enter leaves the field too.
+    // Tab passes the check boxes and colour buttons by; Enter leaves the field for the drawing.
+    ::SendMessageW(Control(IDD_PANEL_STYLE, IDC_PANEL_PEN_WIDTH), WM_KEYDOWN, VK_TAB, 0);
+    EXPECT_EQ(::GetFocus(), Control(IDD_PANEL_STYLE, IDC_PANEL_DASH_FIRST));
     Enter(IDD_PANEL_STYLE, IDC_PANEL_DASH_FIRST, L"4");
     Enter(IDD_PANEL_STYLE, IDC_PANEL_DASH_FIRST + 1, L"300");
     ::SendMessageW(Control(IDD_PANEL_STYLE, IDC_PANEL_DASH_FIRST + 1), WM_KEYDOWN, VK_RETURN, 0);

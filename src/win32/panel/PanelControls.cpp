@@ -23,15 +23,31 @@ double ChooserSize(double size) {
     return std::min(size, 1638.0);
 }
 
+bool IsEdit(HWND control) {
+    wchar_t name[16] = {};
+    ::GetClassNameW(control, name, 16);
+    return ::lstrcmpiW(name, L"Edit") == 0;
+}
+
+// The next field to type into, across the shown pages: Tab passes the buttons by, which would
+// keep the keyboard without a way on.
+HWND NextField(HWND edit, bool backwards) {
+    HWND frame = ::GetParent(::GetParent(edit)); // the frame holds the pages, they the fields
+    HWND next = edit;
+    for (int step = 0; step < 64; ++step) {
+        next = ::GetNextDlgTabItem(frame, next, backwards);
+        if (next == nullptr || next == edit || IsEdit(next)) break;
+    }
+    return next != nullptr ? next : edit;
+}
+
 LRESULT CALLBACK EditKeysProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
     HWND canvas = reinterpret_cast<HWND>(data);
     const bool multiline = (::GetWindowLongW(edit, GWL_STYLE) & ES_MULTILINE) != 0;
     switch (message) {
     case WM_KEYDOWN:
         if (wParam == VK_TAB) {
-            // The frame holds the pages, which hold the fields.
-            HWND next = ::GetNextDlgTabItem(::GetParent(::GetParent(edit)), edit, ::GetKeyState(VK_SHIFT) < 0);
-            if (next != nullptr) ::SetFocus(next);
+            ::SetFocus(NextField(edit, ::GetKeyState(VK_SHIFT) < 0));
             return 0;
         }
         if (wParam == VK_ESCAPE || (wParam == VK_RETURN && !multiline)) {
@@ -132,6 +148,7 @@ void DrawColourButton(const DRAWITEMSTRUCT& item, ColorRef colour) {
 }
 
 void KeepEditKeys(HWND edit, HWND canvas) {
+    if (!IsEdit(edit)) return;
     ::SetWindowSubclass(edit, EditKeysProc, 0, reinterpret_cast<DWORD_PTR>(canvas));
 }
 

@@ -15,9 +15,7 @@ constexpr UINT_PTR kPointListTimer = 1;
 PanelWindow* Owner(HWND window) { return reinterpret_cast<PanelWindow*>(::GetWindowLongPtrW(window, DWLP_USER)); }
 
 BOOL CALLBACK KeepKeysOfEdit(HWND control, LPARAM canvas) {
-    wchar_t name[16] = {};
-    ::GetClassNameW(control, name, 16);
-    if (::lstrcmpiW(name, L"Edit") == 0) KeepEditKeys(control, reinterpret_cast<HWND>(canvas));
+    KeepEditKeys(control, reinterpret_cast<HWND>(canvas));
     return TRUE;
 }
 

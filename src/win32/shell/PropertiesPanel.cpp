@@ -38,13 +38,15 @@ void ShowPropertiesPanel(bool shown) {
         panel = std::make_unique<PanelWindow>(shell.main, shell.canvas, shell.editor->document, [] { Redraw(); });
         live = LivePanel();
         if (live == nullptr) return;
-        live->Refresh();
     }
+    // A hidden panel is not kept up to date: it catches up as it shows.
+    live->Refresh();
     ::ShowWindow(live->Frame(), SW_SHOWNOACTIVATE);
 }
 
 void RefreshPropertiesPanel() {
-    if (PanelWindow* live = LivePanel()) live->Refresh();
+    PanelWindow* live = LivePanel();
+    if (live != nullptr && (::GetWindowLongW(live->Frame(), GWL_STYLE) & WS_VISIBLE) != 0) live->Refresh();
 }
 
 HWND PropertiesPanelFrame() {
