@@ -111,7 +111,7 @@ std::optional<FontChoice> ChooseFontFor(HWND owner, const FontChoice& shown) {
     choose.lpLogFont = &font;
     choose.iPointSize = static_cast<INT>(std::lround(size * 10));
     // Texts become paths through their glyph outlines, which only outline fonts have.
-    choose.Flags = CF_SCREENFONTS | CF_TTONLY | CF_INITTOLOGFONTSTRUCT;
+    choose.Flags = CF_SCREENFONTS | CF_TTONLY | CF_NOVERTFONTS | CF_INITTOLOGFONTSTRUCT;
     if (!::ChooseFontW(&choose)) return std::nullopt;
     return FontChoice{Narrow(font.lfFaceName), font.lfWeight >= FW_SEMIBOLD, font.lfItalic != 0,
                       choose.iPointSize / 10.0};
