@@ -71,8 +71,11 @@ LRESULT CALLBACK CanvasWindowProc(HWND canvas, UINT message, WPARAM wParam, LPAR
     case WM_KEYDOWN:
     case WM_KEYUP:
         return MainWindowProc(TheShell().main, message, wParam, lParam);
-    case WM_MOUSEMOVE:
     case WM_LBUTTONDOWN:
+        // A press on the drawing takes the keys from the panel, which applies what was typed.
+        ::SetFocus(canvas);
+        [[fallthrough]];
+    case WM_MOUSEMOVE:
     case WM_LBUTTONUP:
         Mouse(message, GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam), static_cast<unsigned>(wParam));
         return 0;

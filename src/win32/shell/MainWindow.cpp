@@ -3,6 +3,7 @@
 #include "ui/Commands.h"
 #include "ui/Editor.h"
 #include "ui/resource.h"
+#include "win32/shell/PropertiesPanel.h"
 #include "win32/shell/Shell.h"
 
 #include <algorithm>
@@ -46,7 +47,8 @@ void CreateChildren(HWND main) {
     shell.palette = ::CreateDialogW(shell.instance, MAKEINTRESOURCEW(IDD_TOOLS), main, ToolPaletteProc);
     shell.status = ::CreateDialogW(shell.instance, MAKEINTRESOURCEW(IDD_STATUS), main, StatusStripProc);
     RegisterCanvasClass(shell.instance);
-    shell.canvas = ::CreateWindowExW(0, kCanvasClass, kCanvasClass, WS_CHILD | WS_VISIBLE,
+    // The canvas paints around the properties panel that floats over it, never over it.
+    shell.canvas = ::CreateWindowExW(0, kCanvasClass, kCanvasClass, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS,
                                      CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
                                      main, nullptr, shell.instance, nullptr);
     // "Kopieren" hands its text to this field, which puts it on the clipboard.
@@ -136,7 +138,11 @@ LRESULT CALLBACK MainWindowProc(HWND main, UINT message, WPARAM wParam, LPARAM l
         return 0;
     case WM_COMMAND:
         // Menus and accelerators only: controls' notifications carry their window in lParam.
-        if (lParam == 0 && RunCommand(*TheShell().editor, LOWORD(wParam))) return 0;
+        if (lParam == 0 && RunCommand(*TheShell().editor, LOWORD(wParam))) {
+            // What changes the drawing may change the selection the panel shows.
+            if (CommandRedraws(LOWORD(wParam))) RefreshPropertiesPanel();
+            return 0;
+        }
         break;
     default:
         break;

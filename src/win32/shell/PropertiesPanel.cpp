@@ -32,9 +32,7 @@ void ShowPropertiesPanel(bool shown) {
     }
     if (live == nullptr) {
         if (shell.main == nullptr || shell.editor == nullptr) return;
-        // The canvas paints around the panel, not over it.
         panel.reset();
-        ::SetWindowLongPtrW(shell.canvas, GWL_STYLE, ::GetWindowLongPtrW(shell.canvas, GWL_STYLE) | WS_CLIPSIBLINGS);
         panel = std::make_unique<PanelWindow>(shell.main, shell.canvas, shell.editor->document, [] { Redraw(); });
         live = LivePanel();
         if (live == nullptr) return;
