@@ -177,7 +177,11 @@ void ToolController::RightButtonUp(int x, int y, unsigned) {
 void ToolController::PressSelect(int x, int y, unsigned keys) {
     const Point2 p = World(x, y);
     std::array<int, 4> box;
-    const int handle = view_.SelectionBox(box) ? HandleAt(box, x, y) : kHandleNone;
+    int handle = view_.SelectionBox(box) ? HandleAt(box, x, y) : kHandleNone;
+    // With Shift or Ctrl the inside of the box is for selecting: objects in it can be toggled
+    // and a rubber band can start there.
+    const bool shift = (keys & kKeyShift) != 0, ctrl = (keys & kKeyControl) != 0;
+    if (handle == kHandleMove && (shift || ctrl)) handle = kHandleNone;
     if (handle != kHandleNone) {
         handle_ = handle;
         savedBox_ = document_.SelectionBounds();
@@ -185,7 +189,6 @@ void ToolController::PressSelect(int x, int y, unsigned keys) {
         Begin(Drag::Handle, x, y);
         return;
     }
-    const bool shift = (keys & kKeyShift) != 0, ctrl = (keys & kKeyControl) != 0;
     GraphicObject* hit = document_.HitTest(p, kHitTolerance);
     if (hit == nullptr) {
         if (!shift && !ctrl && !document_.Selection().empty()) {
