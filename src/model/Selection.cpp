@@ -35,7 +35,16 @@ void Document::ToggleSelection(GraphicObject* object) {
 }
 
 void Document::ChangeSelection(const std::vector<GraphicObject*>& objects, SelectionChange change) {
-    if (change == SelectionChange::Replace) ClearSelection();
+    if (change == SelectionChange::Replace) {
+        ClearSelection();
+        selection_.reserve(objects.size());
+        for (GraphicObject* object : objects) {
+            if (object == nullptr) continue;
+            object->SetSelected(true);
+            selection_.push_back(object);
+        }
+        return;
+    }
     std::unordered_set<const GraphicObject*> selected(selection_.begin(), selection_.end());
     std::unordered_set<const GraphicObject*> dropped;
     for (GraphicObject* object : objects) {

@@ -21,6 +21,10 @@ bool IsClosedFigure(const PathObject& path, const FigureRange& figure) {
 // shows its own handles too. Empty otherwise.
 std::vector<std::size_t> HandleOwners(const PathObject& path) {
     std::vector<std::size_t> owners;
+    const auto& types = path.Types();
+    if (std::none_of(types.begin(), types.end(), [](NodeType t) { return (t & node::kSelected) != 0; })) {
+        return owners;
+    }
     int count = 0;
     std::size_t transferred = path.NodeCount();
     SegmentCursor cursor(path.Points(), path.Types());
@@ -54,11 +58,12 @@ GrabbableNode NearestGrabbableNode(const PathObject& path, Point2 p, bool withSh
         withShownControls ? HandleOwners(path) : std::vector<std::size_t>{};
     auto owns = [&](std::size_t i) { return std::find(owners.begin(), owners.end(), i) != owners.end(); };
 
+    // Squared distances while searching.
     GrabbableNode node, control;
     control.control = true;
     auto consider = [&](GrabbableNode& best, std::size_t i) {
         const Point2 q = path.PointAt(i);
-        const double d = std::hypot(q.x - p.x, q.y - p.y);
+        const double d = (q.x - p.x) * (q.x - p.x) + (q.y - p.y) * (q.y - p.y);
         if (best.index < 0 || d < best.distance) {
             best.index = static_cast<long>(i);
             best.distance = d;
@@ -79,8 +84,9 @@ GrabbableNode NearestGrabbableNode(const PathObject& path, Point2 p, bool withSh
         consider(node, s.EndIndex());
         startNode = s.EndIndex();
     }
-    if (control.index >= 0 && (node.index < 0 || control.distance < node.distance)) return control;
-    return node;
+    GrabbableNode& best = control.index >= 0 && (node.index < 0 || control.distance < node.distance) ? control : node;
+    best.distance = std::sqrt(best.distance);
+    return best;
 }
 
 NodeDrag::NodeDrag(const PathObject& path, std::size_t index) {
