@@ -108,7 +108,9 @@ PathObject& LongPath(Canvas& c) {
     c.document.Reset();
     auto path = std::make_unique<PathObject>();
     for (int i = 0; i < 100000; ++i) {
-        const NodeType t = i == 0 ? node::kMoveTo : (i % 6 >= 1 && i % 6 <= 3) ? node::kBezierTo : node::kLineTo;
+        const NodeType t = i == 0                       ? node::kMoveTo
+                           : (i % 6 >= 1 && i % 6 <= 3) ? node::kBezierTo
+                                                        : node::kLineTo;
         path->AddNode({20 + i * 0.005, 400 + 50 * std::sin(i * 0.01)}, t);
     }
     auto* added = static_cast<PathObject*>(c.document.AddObject(std::move(path)));
@@ -158,7 +160,8 @@ void RubberBandSelect(benchmark::State& state) {
         square->AddNode({x + 1, y}, node::kLineTo);
         square->AddNode({x + 1, y + 1}, node::kLineTo);
         square->AddNode({x, y + 1}, node::kLineTo | node::kCloseFigure);
-        c.document.CurrentLayer().InsertAt(std::move(square), &c.document, 0, c.document.CurrentLayer().ChildCount());
+        c.document.CurrentLayer().InsertAt(std::move(square), &c.document, 0,
+                                           c.document.CurrentLayer().ChildCount());
     }
     const DevicePoint a = c.Client({-5, 800}), b = c.Client({700, -5});
     for (auto _ : state) {

@@ -16,14 +16,14 @@ enum class CanvasCursor {
     SizeNs,
     SizeNwSe,
     SizeWe,
-    Text,       // 140
-    Scroll,     // 132
-    Path,       // 133
-    Node,       // 134
-    NodeHit,    // 135: the pointer is over a node the node tool can grab
-    Zoom,       // 136
-    Rectangle,  // 141
-    Ellipse,    // 142
+    Text,      // 140
+    Scroll,    // 132
+    Path,      // 133
+    Node,      // 134
+    NodeHit,   // 135: the pointer is over a node the node tool can grab
+    Zoom,      // 136
+    Rectangle, // 141
+    Ellipse,   // 142
 };
 inline constexpr int kCanvasCursorCount = 14;
 

@@ -7,12 +7,7 @@ namespace rhomba {
 
 namespace {
 
-using node::kCloseFigure;
-using node::kKindMask;
-using node::kSelected;
-
-constexpr NodeType Kind(NodeType t) { return t & kKindMask; }
-constexpr bool Selected(NodeType t) { return (t & kSelected) != 0; }
+bool Selected(NodeType t) { return (t & node::kSelected) != 0; }
 
 } // namespace
 
@@ -21,15 +16,15 @@ bool SplitRule(const PathObject& path) {
     const std::size_t n = types.size();
     for (std::size_t i = 0; i < n; ++i) {
         std::size_t end = i;
-        if (Kind(types[i]) == node::kBezierTo) {
+        if (node::IsBezier(types[i])) {
             end = i + 2;
             i += 2;
             if (end >= n) break;
-        } else if (Kind(types[i]) != node::kLineTo) {
+        } else if (!node::IsLineTo(types[i])) {
             continue;
         }
         if (!Selected(types[end])) continue;
-        if ((types[end] & kCloseFigure) != 0) return true;
+        if ((types[end] & node::kCloseFigure) != 0) return true;
         if (end + 1 < n && !node::IsMoveTo(types[end + 1])) return true;
     }
     return false;
@@ -45,7 +40,7 @@ bool SingleSelectedSegmentRule(const PathObject& path, NodeType wanted) {
     int found = 0;
     for (std::size_t i = 0; i < n; ++i) {
         std::size_t end = i;
-        const NodeType kind = Kind(types[i]);
+        const NodeType kind = types[i] & node::kKindMask;
         if (kind == node::kBezierTo) {
             end = i + 2;
             i += 2;
@@ -86,7 +81,7 @@ NodeMenuState NodeMenuRules(const GraphicObject* first) {
     if (path != nullptr && k == 2 && a >= 0 && b >= 0) {
         const auto ia = static_cast<std::size_t>(a), ib = static_cast<std::size_t>(b);
         joinable = IsOpenEndNode(*path, ia) && IsOpenEndNode(*path, ib) &&
-                   (path->TypeAt(ib) & kCloseFigure) == 0;
+                   (path->TypeAt(ib) & node::kCloseFigure) == 0;
     }
     state[kNodeAdd] = k == 0;
     state[kNodeJoinLine] = joinable;

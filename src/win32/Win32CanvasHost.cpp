@@ -4,7 +4,8 @@
 
 namespace rhomba {
 
-Win32CanvasHost::Win32CanvasHost(HWND canvas, const std::array<HCURSOR, kCanvasCursorCount>& cursors)
+Win32CanvasHost::Win32CanvasHost(HWND canvas,
+                                 const std::array<HCURSOR, kCanvasCursorCount>& cursors)
     : canvas_(canvas), cursors_(cursors) {}
 
 Win32CanvasHost::~Win32CanvasHost() {
@@ -98,8 +99,8 @@ int Win32CanvasHost::TrackMenu(const ContextMenu& menu, int x, int y) {
     POINT p{x, y};
     ::ClientToScreen(canvas_, &p);
     const int chosen = static_cast<int>(::TrackPopupMenu(
-        popup, TPM_RETURNCMD | TPM_NONOTIFY | TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, p.x, p.y,
-        0, canvas_, nullptr));
+        popup, TPM_RETURNCMD | TPM_NONOTIFY | TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, p.x,
+        p.y, 0, canvas_, nullptr));
     ::DestroyMenu(popup);
     return chosen;
 }

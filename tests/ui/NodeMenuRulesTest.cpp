@@ -1,34 +1,23 @@
 #include "ui/NodeMenuRules.h"
 
-#include "model/PathObject.h"
+#include "support/Paths.h"
 
-#include <gtest/gtest.h>
-
-#include <utility>
-#include <vector>
-
-namespace rhomba {
+namespace rhomba::test {
 namespace {
 
-constexpr NodeType M = node::kMoveTo, L = node::kLineTo, B = node::kBezierTo, C = node::kCloseFigure,
-                   S = node::kSelected;
-
-void Build(PathObject& path, const std::vector<std::pair<Point2, int>>& nodes) {
-    path.ClearNodes();
-    for (const auto& [p, t] : nodes) path.AddNode(p, static_cast<NodeType>(t));
-}
+constexpr NodeType M = node::kMoveTo, L = node::kLineTo, B = node::kBezierTo,
+                   C = node::kCloseFigure, S = node::kSelected;
 
 TEST(NodeMenuRules, SplitNeedsASelectedEndFollowedByMoreOfItsFigure) {
-    PathObject path;
-    Build(path, {{{0, 0}, M}, {{10, 0}, L}, {{10, 10}, L | C}, {{20, 0}, M}, {{30, 0}, L | C}});
-    EXPECT_FALSE(SplitRule(path));
-    Build(path, {{{0, 0}, M}, {{10, 0}, L | S}, {{10, 5}, B}, {{15, 5}, B}, {{15, 10}, B | S}, {{20, 10}, L | S}});
-    EXPECT_TRUE(SplitRule(path));
+    EXPECT_FALSE(SplitRule(
+        *NodePath({{{0, 0}, M}, {{10, 0}, L}, {{10, 10}, L | C}, {{20, 0}, M}, {{30, 0}, L | C}})));
+    EXPECT_TRUE(SplitRule(*NodePath({{{0, 0}, M}, {{10, 0}, L | S}, {{10, 5}, B}, {{15, 5}, B},
+                                     {{15, 10}, B | S}, {{20, 10}, L | S}})));
 }
 
 TEST(NodeMenuRules, EnabledEntriesFollowTheSelectedNodes) {
-    PathObject path;
-    Build(path, {{{0, 0}, M}, {{10, 0}, L}, {{10, 10}, L}, {{5, 5}, M}, {{6, 6}, L}});
+    auto owned = NodePath({{{0, 0}, M}, {{10, 0}, L}, {{10, 10}, L}, {{5, 5}, M}, {{6, 6}, L}});
+    PathObject& path = *owned;
     NodeMenuState state = NodeMenuRules(&path);
     EXPECT_TRUE(state[kNodeAdd]);
     EXPECT_TRUE(state[kNodeProperties]);
@@ -42,7 +31,7 @@ TEST(NodeMenuRules, EnabledEntriesFollowTheSelectedNodes) {
     EXPECT_FALSE(state[kNodeAdd]);
     EXPECT_TRUE(state[kNodeJoinLine]);
     EXPECT_TRUE(state[kNodeDelete]);
-    EXPECT_FALSE(state[kNodeSplit]);  // both selected nodes already end their figures
+    EXPECT_FALSE(state[kNodeSplit]);   // both selected nodes already end their figures
     EXPECT_FALSE(state[kNodeToCurve]); // a selected move whose last node is not selected
     path.SetType(3, M);
     path.SetType(1, L | S);
@@ -59,4 +48,4 @@ TEST(NodeMenuRules, EnabledEntriesFollowTheSelectedNodes) {
 }
 
 } // namespace
-} // namespace rhomba
+} // namespace rhomba::test

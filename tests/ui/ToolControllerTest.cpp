@@ -149,12 +149,12 @@ TEST_F(Tools, HandleDragsScaleMirrorAndMove) {
         Rect2 after;
     };
     const Case cases[] = {
-        {"corner scales both axes by the smaller factor", false, {200, 500}, {300, 550}, {100, 200, 250, 50}},
-        {"edge scales its own axis", false, {200, 450}, {250, 480}, {100, 200, 250, 100}},
-        {"dragged across the fixed side mirrors", false, {200, 450}, {50, 450}, {50, 200, 100, 100}},
-        {"inside moves", false, {150, 450}, {170, 430}, {120, 220, 220, 120}},
-        {"a click on a handle changes nothing", false, {200, 500}, {200, 500}, {100, 200, 200, 100}},
-        {"a box without width takes the other factor", true, {100, 500}, {150, 550}, {100, 200, 100, 50}},
+        {"corner: the smaller factor", false, {200, 500}, {300, 550}, {100, 200, 250, 50}},
+        {"edge: its own axis", false, {200, 450}, {250, 480}, {100, 200, 250, 100}},
+        {"across the fixed side: mirrored", false, {200, 450}, {50, 450}, {50, 200, 100, 100}},
+        {"inside: moved", false, {150, 450}, {170, 430}, {120, 220, 220, 120}},
+        {"a click on a handle: nothing", false, {200, 500}, {200, 500}, {100, 200, 200, 100}},
+        {"no width: the other factor", true, {100, 500}, {150, 550}, {100, 200, 100, 50}},
     };
     for (const Case& c : cases) {
         document.Reset();
@@ -199,8 +199,8 @@ TEST_F(Tools, ZoomToolWalksTheStepsAndKeepsTheClickedPoint) {
         unsigned keys;
         double after;
     };
-    const Case cases[] = {{1, 0, 1.5},      {1, kCtrl, 0.75},   {0.995, 0, 1.5}, {60, 0, 60},
-                          {0.1, kCtrl, 0.1}, {0.1, 0, 0.25},    {0.33, 0, 0.33}, {0.33, kCtrl, 0.33}};
+    const Case cases[] = {{1, 0, 1.5},     {1, kCtrl, 0.75},  {0.995, 0, 1.5}, {60, 0, 60},
+                          {0.1, kCtrl, 0.1}, {0.1, 0, 0.25}, {0.33, 0, 0.33}, {0.33, kCtrl, 0.33}};
     tools.SetTool(kToolZoom);
     for (const Case& c : cases) {
         view.SetZoom(c.zoom, 0, 0);
@@ -272,7 +272,9 @@ TEST_F(Tools, PathToolContinuesANearPathOrStartsAFreshOne) {
 
 TEST_F(Tools, PathToolClosesAtTheFirstNodeAndEndsOnADoubleClick) {
     tools.SetTool(kToolPath);
-    for (DevicePoint p : {DevicePoint{100, 500}, {200, 500}, {200, 400}, {103, 497}}) Click(p.x, p.y);
+    for (DevicePoint p : {DevicePoint{100, 500}, {200, 500}, {200, 400}, {103, 497}}) {
+        Click(p.x, p.y);
+    }
     ExpectSettled();
     const auto& closed = static_cast<const PathObject&>(*document.Selection().front());
     EXPECT_EQ(closed.Types(), (std::vector<NodeType>{M, L, L | node::kCloseFigure}));
@@ -288,8 +290,8 @@ TEST_F(Tools, PathToolClosesAtTheFirstNodeAndEndsOnADoubleClick) {
 class NodeTool : public Tools {
 protected:
     NodeTool() {
-        path = Add(document, NodePath({{{100, 100}, M}, {{130, 100}, B}, {{170, 130}, B}, {{200, 130}, B},
-                                       {{200, 200}, L}}));
+        path = Add(document, NodePath({{{100, 100}, M}, {{130, 100}, B}, {{170, 130}, B},
+                                       {{200, 130}, B}, {{200, 200}, L}}));
         tools.SetTool(kToolNode);
     }
     std::vector<bool> SelectedNodes() {
@@ -349,14 +351,17 @@ TEST_F(Tools, RectangleAndEllipseToolsDrawInTheirBoxes) {
         const char* status;
     };
     const double k = 50 * 0.55228474983079, h = 25 * 0.55228474983079;
+    const char* wide = "dx: 100   dy: 50";
     const Case cases[] = {
-        {kToolRectangle, {200, 450}, 0, {{100, 100}, {100, 150}, {200, 150}, {200, 100}}, "dx: 100   dy: 50"},
-        {kToolRectangle, {200, 450}, kCtrl, {{100, 100}, {100, 150}, {150, 150}, {150, 100}}, "dx: 50   dy: 50"},
-        {kToolRectangle, {0, 550}, 0, {{0, 50}, {0, 100}, {100, 100}, {100, 50}}, "dx: 100   dy: 50"},
+        {kToolRectangle, {200, 450}, 0, {{100, 100}, {100, 150}, {200, 150}, {200, 100}}, wide},
+        {kToolRectangle, {200, 450}, kCtrl, {{100, 100}, {100, 150}, {150, 150}, {150, 100}},
+         "dx: 50   dy: 50"},
+        {kToolRectangle, {0, 550}, 0, {{0, 50}, {0, 100}, {100, 100}, {100, 50}}, wide},
         {kToolEllipse, {200, 450}, 0,
-         {{100, 125}, {100, 125 + h}, {150 - k, 150}, {150, 150}, {150 + k, 150}, {200, 125 + h}, {200, 125},
-          {200, 125 - h}, {150 + k, 100}, {150, 100}, {150 - k, 100}, {100, 125 - h}, {100, 125}},
-         "dx: 100   dy: 50"},
+         {{100, 125}, {100, 125 + h}, {150 - k, 150}, {150, 150}, {150 + k, 150}, {200, 125 + h},
+          {200, 125}, {200, 125 - h}, {150 + k, 100}, {150, 100}, {150 - k, 100}, {100, 125 - h},
+          {100, 125}},
+         wide},
         {kToolEllipse, {100, 500}, 0, {}, "dx: 0   dy: 0"}, // a click draws nothing
     };
     for (const Case& c : cases) {

@@ -18,8 +18,8 @@ public:
         wc.hbrBackground = static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH));
         wc.lpszClassName = L"RhombaCanvasHostTest";
         ::RegisterClassW(&wc);
-        hwnd = ::CreateWindowW(wc.lpszClassName, L"canvas", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 320,
-                               240, nullptr, nullptr, wc.hInstance, nullptr);
+        hwnd = ::CreateWindowW(wc.lpszClassName, L"canvas", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50,
+                               50, 320, 240, nullptr, nullptr, wc.hInstance, nullptr);
         ::UpdateWindow(hwnd);
         HDC dc = ::GetDC(hwnd);
         RECT all{0, 0, 400, 400};
@@ -40,7 +40,8 @@ public:
 
 std::array<HCURSOR, kCanvasCursorCount> Cursors() {
     std::array<HCURSOR, kCanvasCursorCount> cursors{};
-    const LPCWSTR system[] = {IDC_ARROW, IDC_SIZEALL, IDC_SIZENESW, IDC_SIZENS, IDC_SIZENWSE, IDC_SIZEWE, IDC_IBEAM};
+    const LPCWSTR system[] = {IDC_ARROW,    IDC_SIZEALL, IDC_SIZENESW, IDC_SIZENS,
+                              IDC_SIZENWSE, IDC_SIZEWE,  IDC_IBEAM};
     for (std::size_t i = 0; i < cursors.size(); ++i) {
         cursors[i] = ::LoadCursorW(nullptr, system[i < 7 ? i : 6]);
     }
@@ -57,7 +58,8 @@ TEST(Win32CanvasHost, CapturesAndSetsTheToolCursor) {
     host.ReleaseMouse();
     EXPECT_EQ(::GetCapture(), nullptr);
     host.SetToolCursor(CanvasCursor::Ellipse);
-    EXPECT_EQ(reinterpret_cast<HCURSOR>(::GetClassLongPtrW(window.hwnd, GCLP_HCURSOR)), cursors.back());
+    const auto classCursor = ::GetClassLongPtrW(window.hwnd, GCLP_HCURSOR);
+    EXPECT_EQ(reinterpret_cast<HCURSOR>(classCursor), cursors.back());
     EXPECT_EQ(host.GetClientSize().width, [&] {
         RECT r;
         ::GetClientRect(window.hwnd, &r);

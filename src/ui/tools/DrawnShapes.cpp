@@ -69,8 +69,8 @@ std::unique_ptr<PathObject> EllipsePath(Point2 a, Point2 b) {
 
 void AppendSegment(PathObject& path, Point2 start, Point2 end) {
     const std::size_t n = path.NodeCount();
-    const bool continues = n > 0 && path.PointAt(n - 1) == start &&
-                           (path.TypeAt(n - 1) & node::kCloseFigure) == 0;
+    const bool continues =
+        n > 0 && path.PointAt(n - 1) == start && (path.TypeAt(n - 1) & node::kCloseFigure) == 0;
     if (!continues) path.AddNode(start, node::kMoveTo);
     path.AddNode(end, node::kLineTo);
 }
@@ -94,9 +94,10 @@ std::vector<GraphicObject*> ObjectsInside(Document& document, const Rect2& box) 
         for (std::size_t k = 0; k < layer.ChildCount(); ++k) {
             GraphicObject* object = layer.ChildAt(k);
             Rect2 bounds;
-            if (object->IsHidden() || !object->GetBounds(bounds, false) || bounds.IsEmpty()) continue;
-            if (bounds.left >= box.left && bounds.right <= box.right && bounds.bottom >= box.bottom &&
-                bounds.top <= box.top) {
+            if (object->IsHidden() || !object->GetBounds(bounds, false) || bounds.IsEmpty())
+                continue;
+            if (bounds.left >= box.left && bounds.right <= box.right &&
+                bounds.bottom >= box.bottom && bounds.top <= box.top) {
                 inside.push_back(object);
             }
         }

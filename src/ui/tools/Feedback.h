@@ -23,7 +23,9 @@ struct Feedback {
 
     static Feedback Line(DevicePoint a, DevicePoint b) { return {Shape::Line, a, b, nullptr, {}}; }
     static Feedback Box(DevicePoint a, DevicePoint b) { return {Shape::Box, a, b, nullptr, {}}; }
-    static Feedback Ellipse(DevicePoint a, DevicePoint b) { return {Shape::Ellipse, a, b, nullptr, {}}; }
+    static Feedback Ellipse(DevicePoint a, DevicePoint b) {
+        return {Shape::Ellipse, a, b, nullptr, {}};
+    }
     static Feedback Outline(std::shared_ptr<const PathObject> path, const Matrix2D& view) {
         return {Shape::Outline, {}, {}, std::move(path), view};
     }

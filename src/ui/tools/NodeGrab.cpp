@@ -10,7 +10,9 @@ namespace rhomba {
 
 namespace {
 
-bool Selected(const PathObject& path, std::size_t i) { return (path.TypeAt(i) & node::kSelected) != 0; }
+bool Selected(const PathObject& path, std::size_t i) {
+    return (path.TypeAt(i) & node::kSelected) != 0;
+}
 
 bool IsClosedFigure(const PathObject& path, const FigureRange& figure) {
     return figure.last != figure.first && (path.TypeAt(figure.last) & node::kCloseFigure) != 0;
@@ -22,7 +24,8 @@ bool IsClosedFigure(const PathObject& path, const FigureRange& figure) {
 std::vector<std::size_t> HandleOwners(const PathObject& path) {
     std::vector<std::size_t> owners;
     const auto& types = path.Types();
-    if (std::none_of(types.begin(), types.end(), [](NodeType t) { return (t & node::kSelected) != 0; })) {
+    if (std::none_of(types.begin(), types.end(),
+                     [](NodeType t) { return (t & node::kSelected) != 0; })) {
         return owners;
     }
     int count = 0;
@@ -56,7 +59,9 @@ std::vector<std::size_t> HandleOwners(const PathObject& path) {
 GrabbableNode NearestGrabbableNode(const PathObject& path, Point2 p, bool withShownControls) {
     const std::vector<std::size_t> owners =
         withShownControls ? HandleOwners(path) : std::vector<std::size_t>{};
-    auto owns = [&](std::size_t i) { return std::find(owners.begin(), owners.end(), i) != owners.end(); };
+    auto owns = [&](std::size_t i) {
+        return std::find(owners.begin(), owners.end(), i) != owners.end();
+    };
 
     // Squared distances while searching.
     GrabbableNode node, control;
@@ -77,14 +82,16 @@ GrabbableNode NearestGrabbableNode(const PathObject& path, Point2 p, bool withSh
             startNode = s.index;
             continue;
         }
-        if (s.kind == SegmentKind::Bezier && !owners.empty() && (owns(startNode) || owns(s.EndIndex()))) {
+        if (s.kind == SegmentKind::Bezier && !owners.empty() &&
+            (owns(startNode) || owns(s.EndIndex()))) {
             consider(control, s.index);
             consider(control, s.index + 1);
         }
         consider(node, s.EndIndex());
         startNode = s.EndIndex();
     }
-    GrabbableNode& best = control.index >= 0 && (node.index < 0 || control.distance < node.distance) ? control : node;
+    GrabbableNode& best =
+        control.index >= 0 && (node.index < 0 || control.distance < node.distance) ? control : node;
     best.distance = std::sqrt(best.distance);
     return best;
 }
@@ -110,12 +117,15 @@ NodeDrag::NodeDrag(const PathObject& path, std::size_t index) {
     if (onCurve) {
         // The end of a closed figure that lies on its start moves with it.
         const FigureRange figure = FigureOf(path, index);
-        if (IsClosedFigure(path, figure) && path.PointAt(figure.first) == path.PointAt(figure.last)) {
+        if (IsClosedFigure(path, figure) &&
+            path.PointAt(figure.first) == path.PointAt(figure.last)) {
             if (index == figure.first) moved_.push_back(figure.last);
             if (index == figure.last) moved_.push_back(figure.first);
         }
         const std::vector<std::size_t> ends = moved_;
-        auto isEnd = [&](std::size_t i) { return std::find(ends.begin(), ends.end(), i) != ends.end(); };
+        auto isEnd = [&](std::size_t i) {
+            return std::find(ends.begin(), ends.end(), i) != ends.end();
+        };
         walk([&](const PathSegment& s, std::size_t startNode) {
             if (s.kind != SegmentKind::Bezier) return;
             if (isEnd(startNode)) moved_.push_back(s.index);

@@ -38,7 +38,8 @@ HandleSides SidesOf(int handle) {
 int HandleAt(const std::array<int, 4>& box, int x, int y) {
     const auto handles = CanvasView::SelectionHandles(box);
     for (std::size_t i = 0; i < handles.size(); ++i) {
-        if (std::abs(x - handles[i].x) <= kHandleReach && std::abs(y - handles[i].y) <= kHandleReach) {
+        if (std::abs(x - handles[i].x) <= kHandleReach &&
+            std::abs(y - handles[i].y) <= kHandleReach) {
             return 1 << i;
         }
     }
@@ -68,7 +69,9 @@ double HandleFactor(double a, double b, double p) {
 }
 
 Matrix2D HandleScale::ToMatrix() const {
-    return Matrix2D::Translation(-fixed.x, -fixed.y).ThenScale(fx, fy).ThenTranslate(fixed.x, fixed.y);
+    return Matrix2D::Translation(-fixed.x, -fixed.y)
+        .ThenScale(fx, fy)
+        .ThenTranslate(fixed.x, fixed.y);
 }
 
 Rect2 HandleScale::Apply(const Rect2& box) const {

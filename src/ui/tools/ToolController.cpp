@@ -3,10 +3,10 @@
 #include "format/Rounding.h"
 #include "geometry/Isometric.h"
 #include "model/Document.h"
+#include "model/PathGeometry.h"
 #include "model/PathNodes.h"
 #include "model/PathObject.h"
 #include "model/PathSegments.h"
-#include "model/PathGeometry.h"
 #include "model/TextObject.h"
 #include "render/CanvasView.h"
 #include "ui/CanvasMenus.h"
@@ -31,7 +31,8 @@ constexpr double kNodeReach = 5.0;
 constexpr double kHitTolerance = 2.0;
 
 // The zoom steps, in percent, that the zoom tool walks.
-constexpr int kZoomSteps[] = {10, 25, 50, 75, 100, 150, 200, 300, 400, 500, 700, 1000, 2000, 4000, 6000};
+constexpr int kZoomSteps[] = {10,  25,  50,  75,   100,  150,  200, 300,
+                              400, 500, 700, 1000, 2000, 4000, 6000};
 
 constexpr CanvasCursor kToolCursors[] = {
     CanvasCursor::Arrow, CanvasCursor::Scroll, CanvasCursor::Zoom,      CanvasCursor::Path,
@@ -39,9 +40,7 @@ constexpr CanvasCursor kToolCursors[] = {
 };
 
 // A status number: rounded to two decimals, never "inf" or "nan".
-double StatusNumber(double value) {
-    return std::isfinite(value) ? RoundDecimals(value, 2) : 0.0;
-}
+double StatusNumber(double value) { return std::isfinite(value) ? RoundDecimals(value, 2) : 0.0; }
 
 // A client coordinate from a mapped value, truncated and kept within the 32-bit range.
 int ClientCoordinate(double value) {
@@ -57,7 +56,7 @@ bool SpansAPixel(DevicePoint a, int x, int y) { return a.x != x && a.y != y; }
 ToolController::ToolController(Document& document, CanvasView& view, CanvasHost& host)
     : document_(document), view_(view), host_(host), feedback_(host) {}
 
-// --- Tools and keys -------------------------------------------------------------------------------
+// --- Tools and keys ------------------------------------------------------------------------------
 
 void ToolController::SetTool(int tool) {
     tool &= 0x0FFFFFFF;
@@ -119,7 +118,7 @@ void ToolController::CancelDrag() {
     End();
 }
 
-// --- Mouse ----------------------------------------------------------------------------------------
+// --- Mouse ---------------------------------------------------------------------------------------
 
 void ToolController::MouseDown(int x, int y, unsigned keys) {
     // A press during a drag means the capture was lost on the way; the path tool alone keeps its
@@ -172,7 +171,7 @@ void ToolController::RightButtonUp(int x, int y, unsigned) {
     host_.Redraw();
 }
 
-// --- Presses --------------------------------------------------------------------------------------
+// --- Presses -------------------------------------------------------------------------------------
 
 void ToolController::PressSelect(int x, int y, unsigned keys) {
     const Point2 p = World(x, y);
@@ -233,7 +232,9 @@ void ToolController::PressPath(int x, int y, unsigned keys) {
         bool continued = false;
         if (PathObject* path = SoleSelectedPath()) {
             const GrabbableNode nearest = NearestGrabbableNode(*path, pathStart_, false);
-            const Point2 at = nearest.index >= 0 ? path->PointAt(static_cast<std::size_t>(nearest.index)) : Point2{};
+            const Point2 at = nearest.index >= 0
+                                  ? path->PointAt(static_cast<std::size_t>(nearest.index))
+                                  : Point2{};
             if (nearest.index >= 0 && PixelDistance(at, x, y) <= kNodeReach) {
                 pathStart_ = at;
                 last_ = Client(at);
@@ -279,17 +280,20 @@ void ToolController::PressNode(int x, int y, unsigned keys) {
     if (PathObject* path = SoleSelectedPath()) {
         const GrabbableNode grabbed = NearestGrabbableNode(*path, p, true);
         if (grabbed.index >= 0 &&
-            PixelDistance(path->PointAt(static_cast<std::size_t>(grabbed.index)), x, y) <= kNodeReach) {
+            PixelDistance(path->PointAt(static_cast<std::size_t>(grabbed.index)), x, y) <=
+                kNodeReach) {
             const auto index = static_cast<std::size_t>(grabbed.index);
             if (!grabbed.control) {
                 // A click selects the node: alone, or toggled with Shift.
                 if ((keys & kKeyShift) != 0) {
-                    path->SetType(index, static_cast<NodeType>(path->TypeAt(index) ^ node::kSelected));
+                    path->SetType(index,
+                                  static_cast<NodeType>(path->TypeAt(index) ^ node::kSelected));
                 } else {
                     for (std::size_t i = 0; i < path->NodeCount(); ++i) {
                         path->SetType(i, static_cast<NodeType>(path->TypeAt(i) & ~node::kSelected));
                     }
-                    path->SetType(index, static_cast<NodeType>(path->TypeAt(index) | node::kSelected));
+                    path->SetType(index,
+                                  static_cast<NodeType>(path->TypeAt(index) | node::kSelected));
                 }
                 host_.Redraw();
             }
@@ -325,7 +329,7 @@ void ToolController::PressText(int x, int y) {
     SelectionChanged();
 }
 
-// --- Moves ----------------------------------------------------------------------------------------
+// --- Moves ---------------------------------------------------------------------------------------
 
 void ToolController::Hover(int x, int y) {
     if (tool_ == kToolSelect) {
@@ -338,7 +342,8 @@ void ToolController::Hover(int x, int y) {
         if (path == nullptr) return;
         const GrabbableNode nearest = NearestGrabbableNode(*path, World(x, y), true);
         const bool near = nearest.index >= 0 &&
-                          PixelDistance(path->PointAt(static_cast<std::size_t>(nearest.index)), x, y) <= kNodeReach;
+                          PixelDistance(path->PointAt(static_cast<std::size_t>(nearest.index)), x,
+                                        y) <= kNodeReach;
         host_.SetCursor(near ? CanvasCursor::NodeHit : CanvasCursor::Node);
     }
 }
@@ -369,7 +374,8 @@ void ToolController::DragTo(int x, int y, unsigned keys) {
         DevicePoint client;
         const Point2 q = PathPointer(x, y, keys, client);
         feedback_.Show(Feedback::Line(Client(pathStart_), client));
-        const double length = std::hypot(q.x - pathStart_.x, q.y - pathStart_.y) / kPointsPerMillimetre;
+        const double length =
+            std::hypot(q.x - pathStart_.x, q.y - pathStart_.y) / kPointsPerMillimetre;
         char text[96];
         std::snprintf(text, sizeof text, "L\xE4nge: %g mm   Winkel: %g", StatusNumber(length),
                       StatusNumber(DirectionDegrees(pathStart_, q)));
@@ -378,10 +384,12 @@ void ToolController::DragTo(int x, int y, unsigned keys) {
     }
     case Drag::Node: {
         const PathObject* path = SoleSelectedPath();
-        if (path != nodePath_ || path == nullptr || path->NodeCount() != nodeCount_ || !nodeDrag_) break;
+        if (path != nodePath_ || path == nullptr || path->NodeCount() != nodeCount_ || !nodeDrag_)
+            break;
         nodeDelta_ = World(x, y) - pressWorld_;
         previewed_ = true;
-        feedback_.Show(Feedback::Outline(nodeDrag_->Outline(*path, nodeDelta_), document_.view.view));
+        feedback_.Show(
+            Feedback::Outline(nodeDrag_->Outline(*path, nodeDelta_), document_.view.view));
         break;
     }
     case Drag::Shape: {
@@ -390,7 +398,8 @@ void ToolController::DragTo(int x, int y, unsigned keys) {
                                              : Feedback::Box(pressClient_, corner));
         const Point2 far = World(corner.x, corner.y);
         char text[96];
-        std::snprintf(text, sizeof text, "dx: %g   dy: %g", StatusNumber(std::fabs(far.x - pressWorld_.x)),
+        std::snprintf(text, sizeof text, "dx: %g   dy: %g",
+                      StatusNumber(std::fabs(far.x - pressWorld_.x)),
                       StatusNumber(std::fabs(far.y - pressWorld_.y)));
         host_.SetStatusText(text);
         break;
@@ -400,7 +409,7 @@ void ToolController::DragTo(int x, int y, unsigned keys) {
     last_ = {x, y};
 }
 
-// --- Releases -------------------------------------------------------------------------------------
+// --- Releases ------------------------------------------------------------------------------------
 
 void ToolController::Release(int x, int y, unsigned keys) {
     switch (drag_) {
@@ -411,7 +420,8 @@ void ToolController::Release(int x, int y, unsigned keys) {
     case Drag::Node: {
         End();
         PathObject* path = SoleSelectedPath();
-        if (previewed_ && nodeDrag_ && path == nodePath_ && path != nullptr && path->NodeCount() == nodeCount_) {
+        if (previewed_ && nodeDrag_ && path == nodePath_ && path != nullptr &&
+            path->NodeCount() == nodeCount_) {
             nodeDrag_->Apply(*path, nodeDelta_);
             host_.RefreshPanel();
         }
@@ -469,7 +479,8 @@ void ToolController::ReleaseNodeBand(int x, int y, unsigned keys) {
     std::vector<bool> before;
     if (shift) {
         before.resize(path->NodeCount());
-        for (std::size_t i = 0; i < path->NodeCount(); ++i) before[i] = (path->TypeAt(i) & node::kSelected) != 0;
+        for (std::size_t i = 0; i < path->NodeCount(); ++i)
+            before[i] = (path->TypeAt(i) & node::kSelected) != 0;
     }
     SelectNodesInRect(*path, pressWorld_, World(x, y));
     // Control points are no nodes of their own: only the ends of segments stay selected.
@@ -481,7 +492,8 @@ void ToolController::ReleaseNodeBand(int x, int y, unsigned keys) {
         controls.push_back(s.index);
         controls.push_back(s.index + 1);
     }
-    for (std::size_t i : controls) path->SetType(i, static_cast<NodeType>(path->TypeAt(i) & ~node::kSelected));
+    for (std::size_t i : controls)
+        path->SetType(i, static_cast<NodeType>(path->TypeAt(i) & ~node::kSelected));
     for (std::size_t i = 0; i < before.size(); ++i) {
         if (before[i]) path->SetType(i, static_cast<NodeType>(path->TypeAt(i) | node::kSelected));
     }
@@ -494,11 +506,12 @@ void ToolController::ReleaseShape(int x, int y, unsigned keys) {
     // Less than a pixel across or down draws nothing: a click is no rectangle.
     if (!SpansAPixel(pressClient_, corner.x, corner.y)) return;
     const Point2 far = World(corner.x, corner.y);
-    document_.AddObject(tool_ == kToolEllipse ? EllipsePath(pressWorld_, far) : RectanglePath(pressWorld_, far));
+    document_.AddObject(tool_ == kToolEllipse ? EllipsePath(pressWorld_, far)
+                                              : RectanglePath(pressWorld_, far));
     SelectionChanged();
 }
 
-// --- Helpers --------------------------------------------------------------------------------------
+// --- Helpers -------------------------------------------------------------------------------------
 
 void ToolController::Begin(Drag drag, int x, int y) {
     drag_ = drag;
@@ -523,7 +536,8 @@ bool ToolController::ClosesFigure(const PathObject& path, int x, int y) const {
     const std::size_t n = path.NodeCount();
     if (n == 0) return false;
     const std::size_t last = n - 1;
-    if (!(path.PointAt(last) == pathStart_) || (path.TypeAt(last) & node::kCloseFigure) != 0) return false;
+    if (!(path.PointAt(last) == pathStart_) || (path.TypeAt(last) & node::kCloseFigure) != 0)
+        return false;
     const FigureRange figure = FigureOf(path, last);
     // Closing a single straight segment would only run it back.
     if (figure.last - figure.first < 2) return false;

@@ -97,10 +97,10 @@ private:
     bool spaceScrolling_ = false;
 
     Drag drag_ = Drag::None;
-    DevicePoint last_;        // the pointer at the last press or drag step
+    DevicePoint last_; // the pointer at the last press or drag step
     DevicePoint pressClient_;
     Point2 pressWorld_;
-    bool previewed_ = false;  // a drag step has shown what the release will do
+    bool previewed_ = false; // a drag step has shown what the release will do
 
     // Handle drags of the select tool.
     int handle_ = kHandleNone;
