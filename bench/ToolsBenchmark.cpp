@@ -27,7 +27,10 @@ public:
     void ReleaseMouse() override {}
     void SetToolCursor(CanvasCursor) override {}
     void SetCursor(CanvasCursor) override {}
-    Device& BeginFeedback() override { return device_; }
+    Device& BeginFeedback() override {
+        ++feedbackDrawings;
+        return device_;
+    }
     void EndFeedback() override {}
     void ShowCursorPoints(double x, double y) override { benchmark::DoNotOptimize(x + y); }
     void ShowCursorMillimetres(double x, double y) override { benchmark::DoNotOptimize(x + y); }
@@ -37,6 +40,8 @@ public:
     void RefreshPanel() override {}
     void ShowPanelAt(int, int) override {}
     int TrackMenu(const ContextMenu&, int, int) override { return 0; }
+
+    long feedbackDrawings = 0;
 
 private:
     RecordingDevice device_{false};
@@ -68,13 +73,17 @@ struct Canvas {
 };
 
 // Moves back and forth between two points, one move per iteration.
-void Moves(benchmark::State& state, ToolController& tools, DevicePoint from, unsigned keys = 0) {
+void Moves(benchmark::State& state, ToolController& tools, QuietHost& host, DevicePoint from,
+           unsigned keys = 0) {
     if (keys != 0 && !tools.IsDragging()) state.SkipWithError("the press started no drag");
     int k = 0;
     for (auto _ : state) {
         const int d = (k++ % 2) * 7;
         tools.MouseMove(from.x + 40 + d, from.y + 30 + d, keys | kKeyLeftButton);
     }
+    // One feedback drawing (erase and draw) per move of a drag.
+    state.counters["drawings"] = benchmark::Counter(static_cast<double>(host.feedbackDrawings),
+                                                    benchmark::Counter::kAvgIterations);
 }
 
 void HandleDragMove(benchmark::State& state) {
@@ -82,7 +91,7 @@ void HandleDragMove(benchmark::State& state) {
     std::array<int, 4> box;
     c.view.SelectionBox(box);
     c.tools.MouseDown(box[2], box[3], kKeyLeftButton); // the lower right corner
-    Moves(state, c.tools, {box[2], box[3]}, kKeyLeftButton);
+    Moves(state, c.tools, c.host, {box[2], box[3]}, kKeyLeftButton);
     c.tools.CancelDrag();
 }
 
@@ -90,7 +99,7 @@ void RubberBandMove(benchmark::State& state) {
     Canvas c;
     const DevicePoint corner = c.Client({-50, 900}); // beside the drawing
     c.tools.MouseDown(corner.x, corner.y, kKeyLeftButton | kKeyShift);
-    Moves(state, c.tools, corner, kKeyShift);
+    Moves(state, c.tools, c.host, corner, kKeyShift);
     c.tools.CancelDrag();
 }
 
@@ -99,7 +108,7 @@ void PathLineMove(benchmark::State& state) {
     c.document.ClearSelection();
     c.tools.SetTool(kToolPath);
     c.tools.MouseDown(600, 600, kKeyLeftButton);
-    Moves(state, c.tools, {600, 600}, kKeyControl);
+    Moves(state, c.tools, c.host, {600, 600}, kKeyControl);
     c.tools.CancelDrag();
 }
 
@@ -124,7 +133,7 @@ void NodeDragMove(benchmark::State& state) {
     PathObject* added = &LongPath(c);
     const DevicePoint at = c.Client(added->PointAt(50004));
     c.tools.MouseDown(at.x, at.y, kKeyLeftButton);
-    Moves(state, c.tools, at, kKeyLeftButton);
+    Moves(state, c.tools, c.host, at, kKeyLeftButton);
     c.tools.CancelDrag();
 }
 
@@ -132,7 +141,7 @@ void ShapeMove(benchmark::State& state) {
     Canvas c;
     c.tools.SetTool(kToolEllipse);
     c.tools.MouseDown(100, 100, kKeyLeftButton);
-    Moves(state, c.tools, {100, 100}, kKeyControl);
+    Moves(state, c.tools, c.host, {100, 100}, kKeyControl);
     c.tools.CancelDrag();
 }
 
@@ -140,13 +149,13 @@ void ShapeMove(benchmark::State& state) {
 // selection, the node cursor over a 100,000-node path.
 void HoverSelection(benchmark::State& state) {
     Canvas c;
-    Moves(state, c.tools, {300, 300}, 0);
+    Moves(state, c.tools, c.host, {300, 300}, 0);
 }
 
 void HoverNodes(benchmark::State& state) {
     Canvas c;
     const DevicePoint at = c.Client(LongPath(c).PointAt(50004));
-    Moves(state, c.tools, at, 0);
+    Moves(state, c.tools, c.host, at, 0);
 }
 
 // Press and release of a rubber band over 100,000 small squares, all of which it selects.
