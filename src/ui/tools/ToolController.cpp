@@ -51,6 +51,19 @@ int ClientCoordinate(double value) {
 
 bool SpansAPixel(DevicePoint a, int x, int y) { return a.x != x && a.y != y; }
 
+void SetNodeSelected(PathObject& path, std::size_t i, bool selected) {
+    const NodeType t = path.TypeAt(i);
+    path.SetType(i, static_cast<NodeType>(selected ? t | node::kSelected : t & ~node::kSelected));
+}
+
+// Lets go of the selected nodes of the first selected object, when that is a path.
+void LeaveNodeEditing(Document& document) {
+    const auto& selection = document.Selection();
+    if (selection.empty() || selection.front()->GetKind() != ObjectKind::Path) return;
+    auto& path = static_cast<PathObject&>(*selection.front());
+    for (std::size_t i = 0; i < path.NodeCount(); ++i) SetNodeSelected(path, i, false);
+}
+
 } // namespace
 
 ToolController::ToolController(Document& document, CanvasView& view, CanvasHost& host)
@@ -62,16 +75,7 @@ void ToolController::SetTool(int tool) {
     tool &= 0x0FFFFFFF;
     if (tool > kToolEllipse || tool == tool_) return;
     CancelDrag();
-    if ((tool_ & kToolNodeMenuBit) != 0) {
-        // Leaving node editing: the first selected path keeps no selected nodes.
-        const auto& selection = document_.Selection();
-        if (!selection.empty() && selection.front()->GetKind() == ObjectKind::Path) {
-            auto& path = static_cast<PathObject&>(*selection.front());
-            for (std::size_t i = 0; i < path.NodeCount(); ++i) {
-                path.SetType(i, static_cast<NodeType>(path.TypeAt(i) & ~node::kSelected));
-            }
-        }
-    }
+    if ((tool_ & kToolNodeMenuBit) != 0) LeaveNodeEditing(document_);
     tool_ = tool;
     host_.SetToolCursor(ToolCursor());
     if (!document_.Selection().empty()) host_.Redraw();
@@ -285,16 +289,9 @@ void ToolController::PressNode(int x, int y, unsigned keys) {
             const auto index = static_cast<std::size_t>(grabbed.index);
             if (!grabbed.control) {
                 // A click selects the node: alone, or toggled with Shift.
-                if ((keys & kKeyShift) != 0) {
-                    path->SetType(index,
-                                  static_cast<NodeType>(path->TypeAt(index) ^ node::kSelected));
-                } else {
-                    for (std::size_t i = 0; i < path->NodeCount(); ++i) {
-                        path->SetType(i, static_cast<NodeType>(path->TypeAt(i) & ~node::kSelected));
-                    }
-                    path->SetType(index,
-                                  static_cast<NodeType>(path->TypeAt(index) | node::kSelected));
-                }
+                const bool wasSelected = (path->TypeAt(index) & node::kSelected) != 0;
+                if ((keys & kKeyShift) == 0) LeaveNodeEditing(document_);
+                SetNodeSelected(*path, index, (keys & kKeyShift) == 0 || !wasSelected);
                 host_.Redraw();
             }
             nodeDrag_.emplace(*path, index);
@@ -308,6 +305,7 @@ void ToolController::PressNode(int x, int y, unsigned keys) {
     GraphicObject* hit = document_.HitTest(p, kHitTolerance);
     const auto& selection = document_.Selection();
     if (hit != nullptr && !(selection.size() == 1 && selection.front() == hit)) {
+        LeaveNodeEditing(document_);
         document_.ClearSelection();
         document_.AddToSelection(hit);
         SelectionChanged();
@@ -470,32 +468,26 @@ void ToolController::ReleaseNodeBand(int x, int y, unsigned keys) {
     if (!SpansAPixel(pressClient_, x, y)) {
         // A click beside the nodes lets go of them.
         if (shift) return;
-        for (std::size_t i = 0; i < path->NodeCount(); ++i) {
-            path->SetType(i, static_cast<NodeType>(path->TypeAt(i) & ~node::kSelected));
-        }
+        LeaveNodeEditing(document_);
         host_.Redraw();
         return;
     }
-    std::vector<bool> before;
-    if (shift) {
-        before.resize(path->NodeCount());
-        for (std::size_t i = 0; i < path->NodeCount(); ++i)
-            before[i] = (path->TypeAt(i) & node::kSelected) != 0;
+    std::vector<bool> before(shift ? path->NodeCount() : 0);
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        before[i] = (path->TypeAt(i) & node::kSelected) != 0;
     }
     SelectNodesInRect(*path, pressWorld_, World(x, y));
     // Control points are no nodes of their own: only the ends of segments stay selected.
+    // (The walk reads only the kinds, which stay.)
     SegmentCursor cursor(path->Points(), path->Types());
-    std::vector<std::size_t> controls;
     PathSegment s;
     while (cursor.Next(s)) {
         if (s.kind != SegmentKind::Bezier) continue;
-        controls.push_back(s.index);
-        controls.push_back(s.index + 1);
+        SetNodeSelected(*path, s.index, false);
+        SetNodeSelected(*path, s.index + 1, false);
     }
-    for (std::size_t i : controls)
-        path->SetType(i, static_cast<NodeType>(path->TypeAt(i) & ~node::kSelected));
     for (std::size_t i = 0; i < before.size(); ++i) {
-        if (before[i]) path->SetType(i, static_cast<NodeType>(path->TypeAt(i) | node::kSelected));
+        if (before[i]) SetNodeSelected(*path, i, true);
     }
     host_.Redraw();
 }
