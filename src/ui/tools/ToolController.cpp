@@ -514,9 +514,10 @@ void ToolController::Begin(Drag drag, int x, int y) {
 }
 
 void ToolController::End() {
+    // First, so that a capture-changed message sent from within ReleaseMouse finds no drag.
+    drag_ = Drag::None;
     feedback_.Hide();
     host_.ReleaseMouse();
-    drag_ = Drag::None;
 }
 
 void ToolController::SelectionChanged() {
