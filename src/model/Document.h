@@ -36,6 +36,9 @@ struct ViewState {
     ViewState();
 };
 
+// How a list of objects changes the selection.
+enum class SelectionChange { Replace, Add, Toggle };
+
 // The one drawing the program edits: a group of layers, with the file name, the current layer,
 // the view, the id counter, the selection and the style defaults.
 // Note: a new Document has pen width 0.25 by default, one cleared by Reset has 1.0; both stay.
@@ -85,6 +88,9 @@ public:
     void AddToSelection(GraphicObject* object);
     void RemoveFromSelection(GraphicObject* object);
     void ToggleSelection(GraphicObject* object);
+    // Applies a whole list (without duplicates) at once, in linear time: a rubber band over a
+    // large drawing picks up every object of it.
+    void ChangeSelection(const std::vector<GraphicObject*>& objects, SelectionChange change);
     // Takes the selected objects out of the selection, then deletes them from the drawing.
     void DeleteSelection();
     // The box of all selected objects without pen widths, from the Rect2 sentinel.

@@ -2,12 +2,10 @@
 
 #include "geometry/Point2.h"
 
-#include <array>
 #include <cstddef>
 
 namespace rhomba {
 
-class GraphicObject;
 class PathObject;
 
 // --- Queries the node menu and the tools read ---------------------------------------------------
@@ -25,27 +23,6 @@ FigureRange FigureOf(const PathObject& path, std::size_t index);
 // True for the first or last node of an open figure.
 bool IsOpenEndNode(const PathObject& path, std::size_t index);
 std::size_t CountFigures(const PathObject& path);
-
-// The enabling rules of the node menu, read from the type bytes as they stand.
-bool SplitRule(const PathObject& path);
-bool ToCurveRule(const PathObject& path);
-bool ToLineRule(const PathObject& path);
-
-// The node menu's entries 1 to 9 ("Hinzufuegen" ... "Eigenschaften"); index 0 is unused.
-enum NodeMenuEntry {
-    kNodeAdd = 1,
-    kNodeJoinLine,
-    kNodeJoinIntersection,
-    kNodeDelete,
-    kNodeSplit,
-    kNodeToCurve,
-    kNodeToLine,
-    kNodeReduce,
-    kNodeProperties,
-};
-using NodeMenuState = std::array<bool, 10>;
-// Which entries are enabled for the first selected object (null when nothing is selected).
-NodeMenuState NodeMenuRules(const GraphicObject* first);
 
 // --- Node operations -----------------------------------------------------------------------------
 

@@ -34,6 +34,34 @@ void Document::ToggleSelection(GraphicObject* object) {
     }
 }
 
+void Document::ChangeSelection(const std::vector<GraphicObject*>& objects, SelectionChange change) {
+    if (change == SelectionChange::Replace) {
+        ClearSelection();
+        selection_.reserve(objects.size());
+        for (GraphicObject* object : objects) {
+            if (object == nullptr) continue;
+            object->SetSelected(true);
+            selection_.push_back(object);
+        }
+        return;
+    }
+    std::unordered_set<const GraphicObject*> selected(selection_.begin(), selection_.end());
+    std::unordered_set<const GraphicObject*> dropped;
+    for (GraphicObject* object : objects) {
+        if (object == nullptr) continue;
+        if (selected.count(object) == 0) {
+            object->SetSelected(true);
+            selection_.push_back(object);
+            selected.insert(object);
+        } else if (change == SelectionChange::Toggle) {
+            object->SetSelected(false);
+            dropped.insert(object);
+        }
+    }
+    if (dropped.empty()) return;
+    std::erase_if(selection_, [&](const GraphicObject* object) { return dropped.count(object) != 0; });
+}
+
 void Document::DeleteSelection() {
     std::vector<GraphicObject*> doomed;
     doomed.swap(selection_);

@@ -2,6 +2,7 @@
 
 #include "geometry/Matrix2D.h"
 #include "render/Device.h"
+#include "ui/ToolIds.h"
 
 #include <array>
 #include <functional>
@@ -18,10 +19,6 @@ struct DisplaySwitches {
     bool coordinateCross = false;
     bool pageFrame = true;
 };
-
-// The tools whose selection feedback the canvas draws.
-inline constexpr int kToolSelect = 0;
-inline constexpr int kToolNode = 4;
 
 // The rise of the isometric guide lines over a client width.
 int IsometricGuideRise(int clientWidth);

@@ -240,7 +240,6 @@ TEST(PathNodes, DeleteKeepsFiguresConnected) {
 TEST(PathNodes, SplitOpensEveryFigureEvenWithoutSelection) {
     PathObject path;
     Build(path, {{{0, 0}, M}, {{10, 0}, L}, {{10, 10}, L | C}, {{20, 0}, M}, {{30, 0}, L | C}});
-    EXPECT_FALSE(SplitRule(path));
     SplitAtSelectedNodes(path);
     EXPECT_EQ(Types(path), (std::vector<int>{M, L, L, M, L}));
 }
@@ -248,44 +247,11 @@ TEST(PathNodes, SplitOpensEveryFigureEvenWithoutSelection) {
 TEST(PathNodes, SplitStartsAFigureAfterEachSelectedEnd) {
     PathObject path;
     Build(path, {{{0, 0}, M}, {{10, 0}, L | S}, {{10, 5}, B}, {{15, 5}, B}, {{15, 10}, B | S}, {{20, 10}, L | S}});
-    EXPECT_TRUE(SplitRule(path));
     SplitAtSelectedNodes(path);
     EXPECT_EQ(Types(path), (std::vector<int>{M, L | S, M, B, B, B | S, M, L | S}));
     EXPECT_EQ(path.PointAt(2), (Point2{10, 0}));
     EXPECT_EQ(path.PointAt(6), (Point2{15, 10}));
     EXPECT_EQ(CountFigures(path), 3u);
-}
-
-TEST(PathNodes, MenuRules) {
-    PathObject path;
-    Build(path, {{{0, 0}, M}, {{10, 0}, L}, {{10, 10}, L}, {{5, 5}, M}, {{6, 6}, L}});
-    NodeMenuState state = NodeMenuRules(&path);
-    EXPECT_TRUE(state[kNodeAdd]);
-    EXPECT_TRUE(state[kNodeProperties]);
-    for (int entry : {kNodeJoinLine, kNodeJoinIntersection, kNodeDelete, kNodeSplit, kNodeToCurve,
-                      kNodeToLine, kNodeReduce}) {
-        EXPECT_FALSE(state[entry]) << entry;
-    }
-    path.SetType(2, L | S);
-    path.SetType(3, M | S);
-    state = NodeMenuRules(&path);
-    EXPECT_FALSE(state[kNodeAdd]);
-    EXPECT_TRUE(state[kNodeJoinLine]);
-    EXPECT_TRUE(state[kNodeDelete]);
-    EXPECT_FALSE(state[kNodeSplit]);  // both selected nodes already end their figures
-    EXPECT_FALSE(state[kNodeToCurve]); // a selected move whose last node is not selected
-    path.SetType(3, M);
-    path.SetType(1, L | S);
-    state = NodeMenuRules(&path);
-    EXPECT_FALSE(state[kNodeJoinLine]); // node 1 is no end node
-    EXPECT_TRUE(state[kNodeSplit]);
-    EXPECT_FALSE(state[kNodeToCurve]); // two selected lines
-    path.SetType(1, L);
-    EXPECT_TRUE(NodeMenuRules(&path)[kNodeToCurve]);
-    EXPECT_FALSE(NodeMenuRules(&path)[kNodeToLine]);
-    const NodeMenuState none = NodeMenuRules(nullptr);
-    EXPECT_TRUE(none[kNodeAdd]);
-    EXPECT_FALSE(none[kNodeProperties]);
 }
 
 // The largest distance of the original outline, finely sampled, from the reduced path.

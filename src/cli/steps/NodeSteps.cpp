@@ -6,6 +6,7 @@
 #include "model/PathNodes.h"
 #include "model/PathObject.h"
 #include "model/Reporter.h"
+#include "ui/NodeMenuRules.h"
 
 #include <string>
 #include <vector>

@@ -1,0 +1,98 @@
+#include "ui/NodeMenuRules.h"
+
+#include "model/PathNodes.h"
+#include "model/PathObject.h"
+
+namespace rhomba {
+
+namespace {
+
+bool Selected(NodeType t) { return (t & node::kSelected) != 0; }
+
+} // namespace
+
+bool SplitRule(const PathObject& path) {
+    const auto& types = path.Types();
+    const std::size_t n = types.size();
+    for (std::size_t i = 0; i < n; ++i) {
+        std::size_t end = i;
+        if (node::IsBezier(types[i])) {
+            end = i + 2;
+            i += 2;
+            if (end >= n) break;
+        } else if (!node::IsLineTo(types[i])) {
+            continue;
+        }
+        if (!Selected(types[end])) continue;
+        if ((types[end] & node::kCloseFigure) != 0) return true;
+        if (end + 1 < n && !node::IsMoveTo(types[end + 1])) return true;
+    }
+    return false;
+}
+
+namespace {
+
+// The to-curve and to-line rules: exactly one selected segment end of the wanted kind, none of
+// the other kind, and no selected move whose figure's last node is unselected.
+bool SingleSelectedSegmentRule(const PathObject& path, NodeType wanted) {
+    const auto& types = path.Types();
+    const std::size_t n = types.size();
+    int found = 0;
+    for (std::size_t i = 0; i < n; ++i) {
+        std::size_t end = i;
+        const NodeType kind = types[i] & node::kKindMask;
+        if (kind == node::kBezierTo) {
+            end = i + 2;
+            i += 2;
+            if (end >= n) break;
+        }
+        if (!Selected(types[end])) continue;
+        if (kind == node::kMoveTo) {
+            if (!Selected(types[FigureOf(path, end).last])) return false;
+            continue;
+        }
+        if (kind == wanted) {
+            ++found;
+        } else if (kind == node::kLineTo || kind == node::kBezierTo) {
+            return false;
+        }
+    }
+    return found == 1;
+}
+
+} // namespace
+
+bool ToCurveRule(const PathObject& path) { return SingleSelectedSegmentRule(path, node::kLineTo); }
+bool ToLineRule(const PathObject& path) { return SingleSelectedSegmentRule(path, node::kBezierTo); }
+
+NodeMenuState NodeMenuRules(const GraphicObject* first) {
+    const PathObject* path = first != nullptr && first->GetKind() == ObjectKind::Path
+                                 ? static_cast<const PathObject*>(first)
+                                 : nullptr;
+    NodeMenuState state{};
+    std::size_t k = 0;
+    long a = -1, b = -1;
+    if (path != nullptr) {
+        k = CountSelectedNodes(*path);
+        a = NextSelectedNode(*path, 0);
+        if (a >= 0) b = NextSelectedNode(*path, static_cast<std::size_t>(a) + 1);
+    }
+    bool joinable = false;
+    if (path != nullptr && k == 2 && a >= 0 && b >= 0) {
+        const auto ia = static_cast<std::size_t>(a), ib = static_cast<std::size_t>(b);
+        joinable = IsOpenEndNode(*path, ia) && IsOpenEndNode(*path, ib) &&
+                   (path->TypeAt(ib) & node::kCloseFigure) == 0;
+    }
+    state[kNodeAdd] = k == 0;
+    state[kNodeJoinLine] = joinable;
+    state[kNodeJoinIntersection] = joinable;
+    state[kNodeDelete] = k > 0;
+    state[kNodeSplit] = path != nullptr && k > 0 && SplitRule(*path);
+    state[kNodeToCurve] = path != nullptr && ToCurveRule(*path);
+    state[kNodeToLine] = path != nullptr && ToLineRule(*path);
+    state[kNodeReduce] = k > 0;
+    state[kNodeProperties] = path != nullptr;
+    return state;
+}
+
+} // namespace rhomba
