@@ -5,6 +5,7 @@
 #include "format/Clipboard.h"
 #include "format/NativeReader.h"
 #include "text/TextToPath.h"
+#include "ui/CanvasMenus.h"
 #include "transform/IsoProjection.h"
 #include "ui/Editor.h"
 #include "ui/ShellHost.h"
@@ -86,6 +87,17 @@ void SelectionDialog(Editor& editor, int templateId) {
     if (RequireSelection(editor.document, editor.host)) Dialog<Model>(editor, templateId);
 }
 
+// With the node tool the selected nodes, otherwise the selected objects.
+void Delete(Editor& editor) {
+    if (ToolController* tools = editor.Tools()) return tools->DeleteSelection();
+    editor.document.DeleteSelection();
+}
+
+void TextToPath(Editor& editor) {
+    if (CanvasHost* canvas = editor.Canvas()) return static_cast<void>(ConvertTextsToPaths(editor.document, *canvas));
+    ConvertSelectedTextsToPaths(editor.document);
+}
+
 void ToggleDraft(Editor& editor) {
     Document& document = editor.document;
     const bool on = !editor.host.IsMenuChecked(IDM_DRAFT);
@@ -128,7 +140,7 @@ constexpr Command kCommands[] = {
          Copy(e);
          e.document.DeleteSelection();
      }},
-    {IDM_DELETE, true, [](Editor& e) { e.document.DeleteSelection(); }},
+    {IDM_DELETE, true, Delete},
     {IDM_ISO_LEFT, true, [](Editor& e) { ProjectSelection(e.document, kFaceLeft); }},
     {IDM_ISO_RIGHT, true, [](Editor& e) { ProjectSelection(e.document, kFaceRight); }},
     {IDM_ISO_TOP1, true, [](Editor& e) { ProjectSelection(e.document, kFaceTop1); }},
@@ -154,7 +166,7 @@ constexpr Command kCommands[] = {
     {IDM_PROPERTIES, false, ToggleProperties},
     {IDM_DRAFT, true, ToggleDraft},
     {IDM_ABOUT, false, [](Editor& e) { e.host.RunAboutDialog(); }},
-    {IDM_TEXT_TO_PATH, true, [](Editor& e) { ConvertSelectedTextsToPaths(e.document); }},
+    {IDM_TEXT_TO_PATH, true, TextToPath},
 };
 
 const Command* Find(int id) {

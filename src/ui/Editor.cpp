@@ -10,4 +10,9 @@ Editor::Editor(ShellHost& shell) : host(shell) {
     document.onTitleChange = [this](const std::string& name) { host.UpdateTitle(name); };
 }
 
+void Editor::AttachCanvas(CanvasHost& canvas) {
+    canvas_ = &canvas;
+    tools_ = std::make_unique<ToolController>(document, view, canvas);
+}
+
 } // namespace rhomba

@@ -1,5 +1,7 @@
 #include "win32/Win32CanvasHost.h"
 
+#include "win32/Text.h"
+
 #include "ui/ContextMenu.h"
 
 namespace rhomba {
@@ -93,7 +95,7 @@ int Win32CanvasHost::TrackMenu(const ContextMenu& menu, int x, int y) {
         } else {
             const UINT state = entry.enabled ? MF_ENABLED : MF_GRAYED;
             ::AppendMenuW(popup, MF_STRING | state, static_cast<UINT_PTR>(entry.id),
-                          WideFrom1252(entry.text).c_str());
+                          Wide(entry.text).c_str());
         }
     }
     POINT p{x, y};
@@ -103,16 +105,6 @@ int Win32CanvasHost::TrackMenu(const ContextMenu& menu, int x, int y) {
         p.y, 0, canvas_, nullptr));
     ::DestroyMenu(popup);
     return chosen;
-}
-
-std::wstring WideFrom1252(const std::string& text) {
-    if (text.empty()) return {};
-    const int size = static_cast<int>(text.size());
-    const int length = ::MultiByteToWideChar(1252, 0, text.data(), size, nullptr, 0);
-    if (length <= 0) return {};
-    std::wstring wide(static_cast<std::size_t>(length), L'\0');
-    ::MultiByteToWideChar(1252, 0, text.data(), size, wide.data(), length);
-    return wide;
 }
 
 } // namespace rhomba

@@ -60,7 +60,4 @@ private:
     std::optional<GdiDevice> feedback_;
 };
 
-// Windows-1252 bytes as UTF-16 through the system's code page 1252.
-std::wstring WideFrom1252(const std::string& text);
-
 } // namespace rhomba

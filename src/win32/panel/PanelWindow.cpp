@@ -56,6 +56,13 @@ PanelWindow::PanelWindow(HWND owner, HWND canvas, Document& document, std::funct
     Place();
 }
 
+void PanelWindow::MoveTo(int screenX, int screenY) {
+    POINT corner{screenX, screenY};
+    ::ScreenToClient(::GetParent(frame_), &corner);
+    ::SetWindowPos(frame_, HWND_TOP, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+    movedByUser_ = true;
+}
+
 // At the right edge of the canvas, where the page, which starts at the left, shows least.
 void PanelWindow::Place() {
     HWND owner = ::GetParent(frame_);

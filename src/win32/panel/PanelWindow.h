@@ -28,6 +28,8 @@ public:
     // Fills the pages from the selection, shows the ones that fit it stacked from the top, and
     // names the selection's kind in the caption.
     void Refresh();
+    // Puts the frame's top left corner at a screen point; it stays there from now on.
+    void MoveTo(int screenX, int screenY);
 
 private:
     static INT_PTR CALLBACK FrameProc(HWND frame, UINT message, WPARAM wParam, LPARAM lParam);

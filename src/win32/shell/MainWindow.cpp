@@ -3,6 +3,7 @@
 #include "ui/Commands.h"
 #include "ui/Editor.h"
 #include "ui/resource.h"
+#include "ui/tools/ToolController.h"
 #include "win32/shell/PropertiesPanel.h"
 #include "win32/shell/Shell.h"
 
@@ -30,12 +31,13 @@ INT_PTR CALLBACK StatusStripProc(HWND strip, UINT message, WPARAM, LPARAM lParam
 void RegisterCanvasClass(HINSTANCE instance) {
     WNDCLASSEXW canvasClass{};
     canvasClass.cbSize = sizeof canvasClass;
-    canvasClass.style = CS_HREDRAW | CS_VREDRAW;
+    // Double clicks end the path being drawn.
+    canvasClass.style = CS_HREDRAW | CS_VREDRAW | CS_DBLCLKS;
     canvasClass.lpfnWndProc = CanvasWindowProc;
     canvasClass.hInstance = instance;
     canvasClass.hIcon = ::LoadIconW(instance, MAKEINTRESOURCEW(IDI_APP));
     canvasClass.hIconSm = ::LoadIconW(instance, MAKEINTRESOURCEW(IDI_APP_SMALL));
-    canvasClass.hCursor = TheShell().cursors[kCursorArrow];
+    canvasClass.hCursor = TheShell().cursors[static_cast<int>(CanvasCursor::Arrow)];
     canvasClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
     canvasClass.lpszClassName = kCanvasClass;
     ::RegisterClassExW(&canvasClass); // a second editor in one process finds it registered
@@ -80,24 +82,14 @@ void EnableEditMenu(HMENU popup) {
     ::EnableMenuItem(popup, POS_ISOMETRY_POPUP, MF_BYPOSITION | selection);
 }
 
-// Space held switches to the scroll tool; letting go brings the tool back.
-int toolBeforeSpace = -1;
-
-void KeyDown(WPARAM key) {
-    Editor& editor = *TheShell().editor;
-    if (key == VK_SPACE && toolBeforeSpace < 0) {
-        toolBeforeSpace = editor.tool;
-        SetTool(1);
-    } else if (key == VK_DELETE) {
-        editor.document.DeleteSelection();
-        Redraw();
-    }
-}
-
-void KeyUp(WPARAM key) {
-    if (key == VK_SPACE && toolBeforeSpace >= 0) {
-        SetTool(toolBeforeSpace);
-        toolBeforeSpace = -1;
+// Space held scrolls, Delete deletes: the tools decide what a key means for them.
+void Key(UINT message, WPARAM key) {
+    ToolController* tools = TheShell().editor->Tools();
+    if (tools == nullptr) return;
+    if (message == WM_KEYDOWN) {
+        tools->KeyDown(static_cast<int>(key));
+    } else {
+        tools->KeyUp(static_cast<int>(key));
     }
 }
 
@@ -128,10 +120,8 @@ LRESULT CALLBACK MainWindowProc(HWND main, UINT message, WPARAM wParam, LPARAM l
         ::PostQuitMessage(0);
         return 0;
     case WM_KEYDOWN:
-        KeyDown(wParam);
-        return 0;
     case WM_KEYUP:
-        KeyUp(wParam);
+        Key(message, wParam);
         return 0;
     case WM_INITMENUPOPUP:
         EnableEditMenu(reinterpret_cast<HMENU>(wParam));

@@ -1,7 +1,5 @@
-// Message boxes, the window title and the text conversions of the shell.
+// Message boxes and the window title.
 #include "win32/shell/Shell.h"
-
-#include "model/Windows1252.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -22,15 +20,6 @@ int Box(unsigned style, const std::string& text) {
 }
 
 } // namespace
-
-std::wstring Wide(const std::string& bytes) {
-    const std::u16string text = Cp1252ToUtf16(bytes);
-    return std::wstring(text.begin(), text.end());
-}
-
-std::string Narrow(const std::wstring& text) {
-    return ToWindows1252(std::u16string(text.begin(), text.end()));
-}
 
 int ShowInfoMessage(const char* format, ...) {
     va_list arguments;

@@ -1,6 +1,7 @@
 #include "win32/shell/PropertiesPanel.h"
 
 #include "ui/Editor.h"
+#include "ui/resource.h"
 #include "win32/panel/PanelWindow.h"
 #include "win32/shell/Shell.h"
 
@@ -40,6 +41,12 @@ void ShowPropertiesPanel(bool shown) {
     // A hidden panel is not kept up to date: it catches up as it shows.
     live->Refresh();
     ::ShowWindow(live->Frame(), SW_SHOWNOACTIVATE);
+}
+
+void ShowPropertiesPanelAt(int screenX, int screenY) {
+    ShowPropertiesPanel(true);
+    ::CheckMenuItem(::GetMenu(TheShell().main), IDM_PROPERTIES, MF_BYCOMMAND | MF_CHECKED);
+    if (PanelWindow* live = LivePanel()) live->MoveTo(screenX, screenY);
 }
 
 void RefreshPropertiesPanel() {

@@ -6,5 +6,7 @@ namespace rhomba {
 // fills it from the current selection.
 void ShowPropertiesPanel(bool shown);
 void RefreshPropertiesPanel();
+// Shows the panel with its top left corner at a screen point, and checks its menu entry.
+void ShowPropertiesPanelAt(int screenX, int screenY);
 
 } // namespace rhomba

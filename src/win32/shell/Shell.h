@@ -1,5 +1,8 @@
 #pragma once
 
+#include "ui/CanvasHost.h"
+#include "win32/Text.h"
+
 #include <array>
 #include <string>
 
@@ -8,26 +11,8 @@
 namespace rhomba {
 
 class Editor;
+class Win32CanvasHost;
 class Win32ShellHost;
-
-// The cursors loaded at start, in the order they are loaded.
-enum ShellCursor : int {
-    kCursorArrow,
-    kCursorSizeAll,
-    kCursorSizeNeSw,
-    kCursorSizeNs,
-    kCursorSizeNwSe,
-    kCursorSizeWe,
-    kCursorText,    // 140
-    kCursorScroll,  // 132
-    kCursorPath,    // 133
-    kCursorNode,    // 134
-    kCursorMove,    // 135
-    kCursorZoom,    // 136
-    kCursorRect,    // 141
-    kCursorEllipse, // 142
-    kCursorCount
-};
 
 // The windows and handles of the one running editor. They live from start-up until the main
 // window is destroyed.
@@ -39,8 +24,10 @@ struct Shell {
     HWND status = nullptr;
     HWND copyEdit = nullptr;
     HACCEL accelerators = nullptr;
-    std::array<HCURSOR, kCursorCount> cursors{};
+    // Loaded at start, in CanvasCursor order.
+    std::array<HCURSOR, kCanvasCursorCount> cursors{};
     Win32ShellHost* host = nullptr;
+    Win32CanvasHost* canvasHost = nullptr;
     Editor* editor = nullptr;
 };
 
@@ -77,9 +64,5 @@ void SetStatusTextF(const char* format, ...);
 void UpdateZoomField();
 void Redraw();
 void SetTool(int tool);
-
-// Windows-1252 bytes as the wide text the windows show, and back.
-std::wstring Wide(const std::string& bytes);
-std::string Narrow(const std::wstring& text);
 
 } // namespace rhomba

@@ -5,6 +5,7 @@
 #include "win32/shell/PropertiesPanel.h"
 #include "win32/shell/Shell.h"
 #include "win32/shell/Win32ShellHost.h"
+#include "win32/Win32CanvasHost.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -34,7 +35,7 @@ void RegisterMainClass(HINSTANCE instance) {
     mainClass.hInstance = instance;
     mainClass.hIcon = ::LoadIconW(instance, MAKEINTRESOURCEW(IDI_APP));
     mainClass.hIconSm = ::LoadIconW(instance, MAKEINTRESOURCEW(IDI_APP_SMALL));
-    mainClass.hCursor = TheShell().cursors[kCursorArrow];
+    mainClass.hCursor = TheShell().cursors[static_cast<int>(CanvasCursor::Arrow)];
     mainClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
     mainClass.lpszMenuName = MAKEINTRESOURCEW(IDR_MAINMENU);
     mainClass.lpszClassName = kProductName;
@@ -44,6 +45,20 @@ void RegisterMainClass(HINSTANCE instance) {
 // The editor lives as long as the process; a test that starts it again gets a fresh one.
 std::unique_ptr<Win32ShellHost> host;
 std::unique_ptr<Editor> editor;
+std::unique_ptr<Win32CanvasHost> canvasHost;
+
+// The tools reach the status strip, the canvas and the panel through the shell's services.
+void AttachTools(Shell& shell) {
+    canvasHost = std::make_unique<Win32CanvasHost>(shell.canvas, shell.cursors);
+    canvasHost->onCursorPoints = ShowCursorPoints;
+    canvasHost->onCursorMillimetres = ShowCursorMillimetres;
+    canvasHost->onStatusText = [](const std::string& text) { SetStatusText(text.c_str()); };
+    canvasHost->onRedraw = Redraw;
+    canvasHost->onRefreshPanel = RefreshPropertiesPanel;
+    canvasHost->onShowPanelAt = ShowPropertiesPanelAt;
+    shell.canvasHost = canvasHost.get();
+    editor->AttachCanvas(*canvasHost);
+}
 
 } // namespace
 
@@ -79,6 +94,7 @@ bool StartEditor(HINSTANCE instance, const std::string& commandLine, int show) {
     Shell& shell = TheShell();
     shell = Shell{};
     shell.instance = instance;
+    canvasHost.reset();
     host = std::make_unique<Win32ShellHost>();
     editor = std::make_unique<Editor>(*host);
     shell.host = host.get();
@@ -90,6 +106,7 @@ bool StartEditor(HINSTANCE instance, const std::string& commandLine, int show) {
                                   CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr,
                                   instance, nullptr);
     if (main == nullptr) return false;
+    AttachTools(shell);
     ::ShowWindow(main, show);
     ::UpdateWindow(main);
 
