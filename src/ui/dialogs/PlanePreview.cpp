@@ -13,10 +13,6 @@ namespace rhomba {
 
 namespace {
 
-// Room around the picture for the axis labels.
-constexpr double kMarginPixels = 16;
-// How far beyond its axis end a label's centre stands.
-constexpr double kLabelGapPixels = 8;
 constexpr ColorRef kAxisColour = 0x909090;
 constexpr ColorRef kLabelColour = 0x505050;
 // GDI's TA_CENTER: labels are centred on their point.
@@ -41,7 +37,7 @@ bool IsFinite(const Rect2& box) {
 }
 
 void DrawAxes(Device& device, const Matrix2D& view, Point2 origin,
-              const std::array<Point2, 3>& ends) {
+              const std::array<Point2, 3>& ends, int labelPixels) {
     const DevicePoint o = ToDevice(view, origin);
     SelectedObject pen(device, device.CreatePen(gdi::kPsSolid, 1, kAxisColour), true);
     for (const Point2& end : ends) {
@@ -49,11 +45,6 @@ void DrawAxes(Device& device, const Matrix2D& view, Point2 origin,
         device.MoveTo(o.x, o.y);
         device.LineTo(e.x, e.y);
     }
-    LogFont face;
-    face.height = -11;
-    face.weight = 400;
-    face.faceName = "MS Shell Dlg";
-    SelectedObject font(device, device.CreateLogFont(face), true);
     const ColorRef oldColour = device.SetTextColor(kLabelColour);
     device.SetBkMode(gdi::kTransparent);
     device.SetTextAlign(kTaCenter | gdi::kTaBaseline);
@@ -65,9 +56,10 @@ void DrawAxes(Device& device, const Matrix2D& view, Point2 origin,
         const double length = std::hypot(dx, dy);
         if (!(length > 0))
             continue;
-        // The baseline sits a little below the label's centre.
-        const int x = DeviceRound(e.x + dx / length * kLabelGapPixels);
-        const int y = DeviceRound(e.y + dy / length * kLabelGapPixels + 4);
+        // The label's centre stands a little beyond the axis end; its baseline a little below.
+        const double gap = 0.75 * labelPixels;
+        const int x = DeviceRound(e.x + dx / length * gap);
+        const int y = DeviceRound(e.y + dy / length * gap + 0.35 * labelPixels);
         device.TextOutW(x, y, names[axis]);
     }
     device.SetTextColor(oldColour);
@@ -138,8 +130,10 @@ void PlanePreview::Paint(Device& device, int width, int height,
         box.Include(end);
     const double boxWidth = box.right - box.left;
     const double boxHeight = box.top - box.bottom;
-    const double roomX = std::max(1.0, width - 2 * kMarginPixels);
-    const double roomY = std::max(1.0, height - 2 * kMarginPixels);
+    // Room around the picture for the labels.
+    const double margin = 1.5 * labelPixels;
+    const double roomX = std::max(1.0, width - 2 * margin);
+    const double roomY = std::max(1.0, height - 2 * margin);
     double scale = std::min(boxWidth > 0 ? roomX / boxWidth : roomX,
                             boxHeight > 0 ? roomY / boxHeight : roomY);
     if (!std::isfinite(scale) || !(scale > 0))
@@ -148,7 +142,7 @@ void PlanePreview::Paint(Device& device, int width, int height,
     const double offsetY = (height - boxHeight * scale) / 2;
     view_ = {scale, 0, 0, -scale, offsetX - box.left * scale, offsetY + box.top * scale};
 
-    DrawAxes(device, view_, origin, ends);
+    DrawAxes(device, view_, origin, ends, labelPixels);
     for (const auto& path : mapped_)
         path->DrawEdit(device, view_, kDrawOutline);
 }

@@ -21,8 +21,12 @@ public:
     // Copies the paths of the selection (groups are looked into) and its box.
     explicit PlanePreview(Document& document);
 
-    // Draws into a cleared device of width by height pixels, y down.
+    // Draws into a cleared device of width by height pixels, y down. The labels are written in
+    // the font the device has selected.
     void Paint(Device& device, int width, int height, const PlaneRotationParams& settings);
+
+    // The height of that font in pixels: the room around the picture grows with it.
+    int labelPixels = 11;
 
     // The last picture's mapping from document units to pixels.
     const Matrix2D& View() const { return view_; }

@@ -54,8 +54,14 @@ bool PaintPreview(ModelDialogState& state, const DRAWITEMSTRUCT& item) {
     const int width = item.rcItem.right - item.rcItem.left;
     const int height = item.rcItem.bottom - item.rcItem.top;
     OffscreenCanvas canvas(item.hDC, width, height);
+    // The labels are written in the dialog's own font, so they grow with the screen's DPI.
+    const LRESULT font = ::SendMessageW(::GetParent(item.hwndItem), WM_GETFONT, 0, 0);
+    const HGDIOBJ oldFont = ::SelectObject(canvas.Dc(), reinterpret_cast<HGDIOBJ>(font));
+    TEXTMETRICW metrics{};
+    if (::GetTextMetricsW(canvas.Dc(), &metrics)) state.preview->labelPixels = metrics.tmHeight;
     GdiDevice device(canvas.Dc());
     state.preview->Paint(device, width, height, plane->ReadControls());
+    ::SelectObject(canvas.Dc(), oldFont);
     canvas.Present();
     return true;
 }
@@ -74,7 +80,9 @@ void CentreOverOwner(HWND dialog) {
     ::GetMonitorInfoW(::MonitorFromWindow(owner, MONITOR_DEFAULTTONEAREST), &screen);
     const RECT& work = screen.rcWork;
     // The left or top edge wins where the dialog is larger than the work area.
-    auto place = [](LONG low, LONG high, LONG centred) { return std::max(low, std::min(high, centred)); };
+    auto place = [](LONG low, LONG high, LONG centred) {
+        return std::max(low, std::min(high, centred));
+    };
     const int x = place(work.left, work.right - width, (around.left + around.right - width) / 2);
     const int y = place(work.top, work.bottom - height, (around.top + around.bottom - height) / 2);
     ::SetWindowPos(dialog, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
