@@ -1,7 +1,7 @@
 #include "ui/dialogs/PlanePreview.h"
 
+#include "format/NativeWriter.h"
 #include "model/Document.h"
-#include "model/TextObject.h"
 #include "render/DevicePath.h"
 #include "render/RecordingDevice.h"
 #include "support/Paths.h"
@@ -17,130 +17,80 @@ namespace {
 constexpr int kWidth = 220;
 constexpr int kHeight = 160;
 
-// A square and a slanted line, both selected.
+// A square and a curve, both selected.
 void AddDrawing(Document& document) {
     GraphicObject* square = test::Add(document, test::Square(10, 20, 100));
-    test::Add(document, test::Polyline({{0, 0}, {60, 140}}));
+    test::Add(document,
+              test::NodePath({{{0, 0}, 6}, {{30, 90}, 4}, {{90, 120}, 4}, {{60, 140}, 4}}));
     document.AddToSelection(square);
 }
 
-// The points of every PolyDraw call, in order, as "x,y" words.
-std::vector<std::string> DrawnPoints(const RecordingDevice& device) {
-    std::vector<std::string> points;
-    for (const std::string& call : device.CallsNamed("PolyDraw")) {
-        std::size_t at = call.find(' ');
-        while (at != std::string::npos) {
-            const std::size_t next = call.find(' ', at + 1);
-            const std::string word =
-                call.substr(at + 1, next == std::string::npos ? next : next - at - 1);
-            points.push_back(word.substr(0, word.find(':')));
-            at = next;
-        }
-    }
-    return points;
-}
-
-TEST(PlanePreview, ShowsTheSelectionAsOkTurnsItFittedIntoTheField) {
-    struct Case {
-        int plane, firstAxis;
-        double firstAngle;
-        int secondAxis;
-        double secondAngle;
-        bool foreshorten;
+// The preview draws what OK would make of the selection, fitted into the field, over three
+// axes from the selection's centre labelled X, Y, Z; the selection itself stays.
+TEST(PlanePreview, ShowsWhatOkWouldMakeOverTheThreeAxes) {
+    const PlaneRotationParams cases[] = {
+        {{}, kPlaneXY, kAxisX, 0, kAxisY, 0, true},
+        {{}, kPlaneZY, kAxisY, 30, kAxisZ, -45, false},
+        {{}, kPlaneZX, kAxisZ, 90, kAxisX, 0.005, true},
+        {{}, kPlaneXZ, kAxisX, -120, kAxisY, 200, false},
     };
-    const Case cases[] = {
-        {kPlaneXY, kAxisX, 0, kAxisY, 0, true},
-        {kPlaneZY, kAxisY, 30, kAxisZ, -45, false},
-        {kPlaneZX, kAxisZ, 90, kAxisX, 0.005, true},
-        {kPlaneXZ, kAxisX, -120, kAxisY, 200, false},
-    };
-    for (const Case& c : cases) {
-        PlaneRotationParams settings;
-        settings.plane = c.plane;
-        settings.firstAxis = c.firstAxis;
-        settings.firstAngle = c.firstAngle;
-        settings.secondAxis = c.secondAxis;
-        settings.secondAngle = c.secondAngle;
-        settings.foreshorten = c.foreshorten;
-
-        Document shown;
+    for (const PlaneRotationParams& settings : cases) {
+        Document shown, turned;
         AddDrawing(shown);
+        AddDrawing(turned);
+        const std::string before = SaveNativeText(shown);
         PlanePreview preview(shown);
         RecordingDevice device;
         preview.Paint(device, kWidth, kHeight, settings);
-
-        Document turned;
-        AddDrawing(turned);
         RotateSelectionInPlane(turned, settings);
-        std::vector<std::string> expected;
-        for (std::size_t i = 0; i < turned.CurrentLayer().ChildCount(); ++i) {
-            const auto& path = static_cast<const PathObject&>(*turned.CurrentLayer().ChildAt(i));
-            for (Point2 p : path.Points()) {
-                const DevicePoint d = ToDevice(preview.View(), p);
-                expected.push_back(std::to_string(d.x) + ',' + std::to_string(d.y));
-                EXPECT_TRUE(d.x >= 0 && d.x <= kWidth && d.y >= 0 && d.y <= kHeight) << c.plane;
+
+        std::string expected;
+        for (std::size_t i = 0; i < 2; ++i) {
+            DevicePath path;
+            ConvertPath(static_cast<const PathObject&>(*turned.CurrentLayer().ChildAt(i)),
+                        preview.View(), TypeRule::Screen, path);
+            expected += "PolyDraw";
+            for (std::size_t k = 0; k < path.points.size(); ++k) {
+                const DevicePoint p = path.points[k];
+                EXPECT_TRUE(p.x >= 0 && p.x <= kWidth && p.y >= 0 && p.y <= kHeight);
+                expected += ' ' + std::to_string(p.x) + ',' + std::to_string(p.y) + ':' +
+                            std::to_string(path.types[k]);
             }
         }
-        EXPECT_EQ(DrawnPoints(device), expected) << "plane " << c.plane;
-        // The original selection is left as it was.
-        EXPECT_EQ(static_cast<PathObject&>(*shown.Selection()[1]).PointAt(0), (Point2{10, 20}));
+        const auto drawn = device.CallsNamed("PolyDraw");
+        ASSERT_EQ(drawn.size(), 2u);
+        EXPECT_EQ(drawn[0] + drawn[1], expected) << settings.plane;
+
+        const DevicePoint centre = ToDevice(preview.View(), shown.SelectionBounds().Centre());
+        const std::string origin =
+            "MoveTo " + std::to_string(centre.x) + ' ' + std::to_string(centre.y);
+        EXPECT_EQ(device.CallsNamed("MoveTo"), std::vector<std::string>(3, origin));
+        const auto labels = device.CallsNamed("TextOutW");
+        ASSERT_EQ(labels.size(), 3u);
+        EXPECT_NE(labels[0].find("'X'"), std::string::npos);
+        EXPECT_NE(labels[2].find("'Z'"), std::string::npos);
+        EXPECT_EQ(device.LiveObjects(), 0u);
+        EXPECT_EQ(SaveNativeText(shown), before);
     }
 }
 
-TEST(PlanePreview, DrawsThreeThinLabelledAxesFromTheSelectionCentre) {
-    Document document;
-    AddDrawing(document);
-    PlanePreview preview(document);
-    RecordingDevice device;
-    preview.Paint(device, kWidth, kHeight, PlaneRotationParams{});
-
-    const DevicePoint centre = ToDevice(preview.View(), document.SelectionBounds().Centre());
-    const std::string moveTo =
-        "MoveTo " + std::to_string(centre.x) + ' ' + std::to_string(centre.y);
-    EXPECT_EQ(device.CallsNamed("MoveTo"), std::vector<std::string>(3, moveTo));
-    EXPECT_EQ(device.CountNamed("LineTo"), 3u);
-    ASSERT_EQ(device.CountNamed("TextOutW"), 3u);
-    const auto labels = device.CallsNamed("TextOutW");
-    EXPECT_NE(labels[0].find("'X'"), std::string::npos);
-    EXPECT_NE(labels[1].find("'Y'"), std::string::npos);
-    EXPECT_NE(labels[2].find("'Z'"), std::string::npos);
-    EXPECT_EQ(device.CallsNamed("CreatePen")[0], "CreatePen 0 1 0x909090 -> pen1");
-    EXPECT_EQ(device.LiveObjects(), 0u);
-}
-
-// Selections without size, without paths, or with points beyond measure still give a picture
-// of the axes inside the field.
-TEST(PlanePreview, SelectionsWithoutMeasureDrawOnlyWhatTheyCan) {
-    const double huge = 1e300;
+// Selections without size or with points beyond measure still show the axes inside the field.
+TEST(PlanePreview, SelectionsWithoutMeasureKeepTheAxesInTheField) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
-    const std::vector<std::vector<Point2>> cases = {
-        {{5, 5}},
-        {{5, 5}, {5, 5}},
-        {{0, 0}, {huge, -huge}},
-        {{0, 0}, {nan, 3}},
-    };
-    for (const auto& points : cases) {
+    for (const std::vector<Point2>& points : std::vector<std::vector<Point2>>{
+             {{5, 5}}, {{0, 0}, {1e300, -1e300}}, {{0, 0}, {nan, 3}}}) {
         Document document;
         test::Add(document, test::Polyline(points));
         PlanePreview preview(document);
         RecordingDevice device;
         preview.Paint(device, kWidth, kHeight, PlaneRotationParams{});
+        ASSERT_EQ(device.CountNamed("TextOutW"), 3u);
         for (const std::string& call : device.CallsNamed("TextOutW")) {
             int x = 0, y = 0;
-            ASSERT_EQ(std::sscanf(call.c_str(), "TextOutW %d %d", &x, &y), 2);
+            std::sscanf(call.c_str(), "TextOutW %d %d", &x, &y);
             EXPECT_TRUE(x >= 0 && x <= kWidth && y >= 0 && y <= kHeight) << call;
         }
-        EXPECT_EQ(device.CountNamed("TextOutW"), 3u);
     }
-
-    Document texts;
-    test::Add(texts, std::make_unique<TextObject>());
-    PlanePreview preview(texts);
-    EXPECT_EQ(preview.NodeCount(), 0u);
-    RecordingDevice device;
-    preview.Paint(device, kWidth, kHeight, PlaneRotationParams{});
-    EXPECT_EQ(device.CountNamed("PolyDraw"), 0u);
-    EXPECT_EQ(device.CountNamed("LineTo"), 3u);
 }
 
 } // namespace
