@@ -217,8 +217,8 @@ TEST_F(TransformDialogs, BadTypedTextIsReadByTheModelsRules) {
     }
 }
 
-// Every other dialog is closed with its close box.
-TEST_F(TransformDialogs, CancelAndTheCloseBoxChangeNothing) {
+// Every other dialog is closed with its close box, the rest with Escape.
+TEST_F(TransformDialogs, EscapeAndTheCloseBoxChangeNothing) {
     bool closeBox = false;
     for (const DialogCase& c : Dialogs()) {
         AddInput(Doc());
@@ -226,8 +226,11 @@ TEST_F(TransformDialogs, CancelAndTheCloseBoxChangeNothing) {
         ModalDriver driver;
         driver.Then([&](HWND dialog) {
             ModalDriver::Type(dialog, c.edits[0], L"12");
-            ::SendMessageW(dialog, closeBox ? WM_SYSCOMMAND : WM_COMMAND,
-                           closeBox ? SC_CLOSE : IDCANCEL, 0);
+            if (closeBox) {
+                ::SendMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+            } else {
+                ::PostMessageW(::GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
+            }
         });
         Command(c.command);
         EXPECT_TRUE(driver.Done()) << c.caption;
