@@ -20,11 +20,27 @@ void ShowPrinter(HWND dialog) {
     ::SetDlgItemTextW(dialog, IDC_PRINTER_NAME, Wide(std::string(device) + "\r\n" + port).c_str());
 }
 
+// What the settings and print dialogs share: "&Drucker..." and the close box. True when the
+// message was one of these.
+bool PrinterDialogMessage(HWND dialog, UINT message, WPARAM wParam) {
+    if (message == WM_COMMAND && LOWORD(wParam) == IDC_PRINTER_CHOOSE) {
+        ThePrinter().Select(dialog);
+        ShowPrinter(dialog);
+        return true;
+    }
+    if (message == WM_CLOSE) {
+        ::EndDialog(dialog, 0);
+        return true;
+    }
+    return false;
+}
+
 // The dialogs reach what they change through this pointer, set only while one is open.
 DisplaySwitches* openSwitches = nullptr;
 
 INT_PTR CALLBACK SettingsProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     if (openSwitches == nullptr) return FALSE;
+    if (PrinterDialogMessage(dialog, message, wParam)) return TRUE;
     DisplaySwitches& switches = *openSwitches;
     auto box = [dialog](int id) { return ::IsDlgButtonChecked(dialog, id) == BST_CHECKED; };
     switch (message) {
@@ -36,10 +52,6 @@ INT_PTR CALLBACK SettingsProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) 
         return TRUE;
     case WM_COMMAND:
         switch (LOWORD(wParam)) {
-        case IDC_PRINTER_CHOOSE:
-            ThePrinter().Select(dialog);
-            ShowPrinter(dialog);
-            return TRUE;
         case IDOK:
             switches.isometricLines = box(IDC_SHOW_ISO_LINES);
             switches.coordinateCross = box(IDC_SHOW_CROSS);
@@ -51,9 +63,6 @@ INT_PTR CALLBACK SettingsProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) 
             return TRUE;
         }
         return FALSE;
-    case WM_CLOSE:
-        ::EndDialog(dialog, 0);
-        return TRUE;
     default:
         return FALSE;
     }
@@ -63,16 +72,13 @@ Document* printedDocument = nullptr;
 
 INT_PTR CALLBACK PrintProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     if (printedDocument == nullptr) return FALSE;
+    if (PrinterDialogMessage(dialog, message, wParam)) return TRUE;
     switch (message) {
     case WM_INITDIALOG:
         ShowPrinter(dialog);
         return TRUE;
     case WM_COMMAND:
         switch (LOWORD(wParam)) {
-        case IDC_PRINTER_CHOOSE:
-            ThePrinter().Select(dialog);
-            ShowPrinter(dialog);
-            return TRUE;
         case IDC_PRINT_START:
             if (HDC printer = ThePrinter().CreatePrinterDc()) {
                 PrintOnPrinterDc(*printedDocument, printer);
@@ -85,9 +91,6 @@ INT_PTR CALLBACK PrintProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
             return TRUE;
         }
         return FALSE;
-    case WM_CLOSE:
-        ::EndDialog(dialog, 0);
-        return TRUE;
     default:
         return FALSE;
     }
