@@ -116,7 +116,10 @@ struct Command {
     int id;
     bool redraw;
     void (*run)(Editor&);
+    CommandEnabling enabling = CommandEnabling::Always;
 };
+
+constexpr auto kSelection = CommandEnabling::Selection;
 
 constexpr Command kCommands[] = {
     {IDM_NEW, true, [](Editor& e) { e.document.Reset(); }},
@@ -133,14 +136,15 @@ constexpr Command kCommands[] = {
     // No undo exists: the entries stay grayed and their ids, should they arrive, do nothing.
     {IDM_UNDO, false, [](Editor&) {}},
     {IDM_REDO, false, [](Editor&) {}},
-    {IDM_COPY, false, Copy},
-    {IDM_PASTE, true, Paste},
+    {IDM_COPY, false, Copy, kSelection},
+    {IDM_PASTE, true, Paste, CommandEnabling::ClipboardText},
     {IDM_CUT, true,
      [](Editor& e) {
          Copy(e);
          e.document.DeleteSelection();
-     }},
-    {IDM_DELETE, true, Delete},
+     },
+     kSelection},
+    {IDM_DELETE, true, Delete, kSelection},
     {IDM_ISO_LEFT, true, [](Editor& e) { ProjectSelection(e.document, kFaceLeft); }},
     {IDM_ISO_RIGHT, true, [](Editor& e) { ProjectSelection(e.document, kFaceRight); }},
     {IDM_ISO_TOP1, true, [](Editor& e) { ProjectSelection(e.document, kFaceTop1); }},
@@ -151,10 +155,10 @@ constexpr Command kCommands[] = {
     {IDM_ISO_BACK_TOP2, true, [](Editor& e) { ProjectSelection(e.document, kBackFromTop2); }},
     {IDM_CYLINDER, true, [](Editor& e) { SelectionDialog<CylinderDialogModel>(e, IDD_CYLINDER); }},
     {IDM_PLANE, true, [](Editor& e) { SelectionDialog<PlaneDialogModel>(e, IDD_PLANE); }},
-    {IDM_ROTATE, true, [](Editor& e) { SelectionDialog<RotateDialogModel>(e, IDD_ROTATE); }},
-    {IDM_STRETCH, true, [](Editor& e) { SelectionDialog<StretchDialogModel>(e, IDD_STRETCH); }},
-    {IDM_SHEAR, true, [](Editor& e) { SelectionDialog<ShearDialogModel>(e, IDD_SHEAR); }},
-    {IDM_MOVE, true, [](Editor& e) { SelectionDialog<MoveDialogModel>(e, IDD_MOVE); }},
+    {IDM_ROTATE, true, [](Editor& e) { SelectionDialog<RotateDialogModel>(e, IDD_ROTATE); }, kSelection},
+    {IDM_STRETCH, true, [](Editor& e) { SelectionDialog<StretchDialogModel>(e, IDD_STRETCH); }, kSelection},
+    {IDM_SHEAR, true, [](Editor& e) { SelectionDialog<ShearDialogModel>(e, IDD_SHEAR); }, kSelection},
+    {IDM_MOVE, true, [](Editor& e) { SelectionDialog<MoveDialogModel>(e, IDD_MOVE); }, kSelection},
     {IDM_BACK_ONE, true, [](Editor& e) { e.document.Arrange(-1); }},
     {IDM_BACK_ALL, true, [](Editor& e) { e.document.Arrange(-111); }},
     {IDM_FORWARD_ONE, true, [](Editor& e) { e.document.Arrange(1); }},
@@ -190,8 +194,18 @@ bool CommandRedraws(int id) {
     return command != nullptr && command->redraw;
 }
 
-EditMenuState EditMenuEnabling(Editor& editor) {
-    return {editor.host.ClipboardHasText(), !editor.document.Selection().empty()};
+CommandEnabling EnablingOf(int id) {
+    const Command* command = Find(id);
+    return command != nullptr ? command->enabling : CommandEnabling::Always;
+}
+
+bool IsEnabledNow(Editor& editor, CommandEnabling enabling) {
+    switch (enabling) {
+    case CommandEnabling::Selection: return !editor.document.Selection().empty();
+    case CommandEnabling::ClipboardText: return editor.host.ClipboardHasText();
+    case CommandEnabling::Always: break;
+    }
+    return true;
 }
 
 } // namespace rhomba

@@ -13,17 +13,11 @@ bool RunCommand(Editor& editor, int id);
 // Whether the command repaints the canvas after it runs.
 bool CommandRedraws(int id);
 
-// The entries of the "Bearbeiten" menu that depend on the state: paste on clipboard text, the
-// selection entries (copy, cut, delete, the "&Isometrie" popup and the four transformations) on
-// a selection. Nothing else in the menus is ever grayed.
-struct EditMenuState {
-    bool paste = false;
-    bool selectionEntries = false;
-};
-EditMenuState EditMenuEnabling(Editor& editor);
-
-// The commands grayed with an empty selection (the "&Isometrie" popup is grayed by position).
-inline constexpr int kSelectionCommands[] = {IDM_COPY,   IDM_CUT,     IDM_DELETE, IDM_ROTATE,
-                                             IDM_STRETCH, IDM_SHEAR, IDM_MOVE};
+// How an entry of the "Bearbeiten" menu is enabled each time the menu opens: by the selection
+// (copy, cut, delete, the four transformations and the "&Isometrie" popup), by text on the
+// clipboard (paste), or never touched (everything else, in every menu).
+enum class CommandEnabling { Always, Selection, ClipboardText };
+CommandEnabling EnablingOf(int id);
+bool IsEnabledNow(Editor& editor, CommandEnabling enabling);
 
 } // namespace rhomba

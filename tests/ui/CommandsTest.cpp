@@ -44,6 +44,22 @@ TEST_F(Commands, EveryCommandRunsAndRepaintsByTheTable) {
     EXPECT_EQ(host.platformCalls, (std::vector<std::string>{"emf", "print", "quit", "about", "settings"}));
 }
 
+TEST_F(Commands, EditMenuEnablingFollowsSelectionAndClipboard) {
+    for (int id : {IDM_COPY, IDM_CUT, IDM_DELETE, IDM_ROTATE, IDM_STRETCH, IDM_SHEAR, IDM_MOVE}) {
+        EXPECT_EQ(EnablingOf(id), CommandEnabling::Selection) << id;
+    }
+    EXPECT_EQ(EnablingOf(IDM_PASTE), CommandEnabling::ClipboardText);
+    for (int id : {IDM_UNDO, IDM_CYLINDER, IDM_PLANE, IDM_ISO_LEFT, IDM_NEW}) {
+        EXPECT_EQ(EnablingOf(id), CommandEnabling::Always) << id;
+    }
+    EXPECT_FALSE(IsEnabledNow(editor, CommandEnabling::Selection));
+    EXPECT_FALSE(IsEnabledNow(editor, CommandEnabling::ClipboardText));
+    AddSquare();
+    host.clipboard = ClipboardText{"x", false};
+    EXPECT_TRUE(IsEnabledNow(editor, CommandEnabling::Selection));
+    EXPECT_TRUE(IsEnabledNow(editor, CommandEnabling::ClipboardText));
+}
+
 TEST_F(Commands, SelectionDialogsAskForASelectionGeneratorsDoNot) {
     for (int id : {IDM_ROTATE, IDM_STRETCH, IDM_SHEAR, IDM_MOVE, IDM_CYLINDER, IDM_PLANE}) RunCommand(editor, id);
     EXPECT_EQ(host.messages, std::vector<std::string>(6, "Kein Object markiert!"));

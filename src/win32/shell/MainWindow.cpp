@@ -75,11 +75,15 @@ int OuterHeight(HWND window) {
 // Grays what needs a selection or clipboard text, in the "Bearbeiten" menu only.
 void EnableEditMenu(HMENU popup) {
     if (::GetMenuState(popup, IDM_DELETE, MF_BYCOMMAND) == static_cast<UINT>(-1)) return;
-    const EditMenuState state = EditMenuEnabling(*TheShell().editor);
-    ::EnableMenuItem(popup, IDM_PASTE, MF_BYCOMMAND | (state.paste ? MF_ENABLED : MF_GRAYED));
-    const UINT selection = state.selectionEntries ? MF_ENABLED : MF_GRAYED;
-    for (int id : kSelectionCommands) ::EnableMenuItem(popup, id, MF_BYCOMMAND | selection);
-    ::EnableMenuItem(popup, POS_ISOMETRY_POPUP, MF_BYPOSITION | selection);
+    Editor& editor = *TheShell().editor;
+    for (int position = 0; position < ::GetMenuItemCount(popup); ++position) {
+        const UINT id = ::GetMenuItemID(popup, position);
+        const CommandEnabling rule = position == POS_ISOMETRY_POPUP ? CommandEnabling::Selection
+                                                                    : EnablingOf(static_cast<int>(id));
+        if (rule == CommandEnabling::Always) continue;
+        const bool on = IsEnabledNow(editor, rule);
+        ::EnableMenuItem(popup, position, MF_BYPOSITION | (on ? MF_ENABLED : MF_GRAYED));
+    }
 }
 
 // Space held scrolls, Delete deletes: the tools decide what a key means for them.
