@@ -146,22 +146,34 @@ std::optional<JoinResult> Join(PathObject& path, std::size_t a, std::size_t b) {
     return JoinResult{j - count + 1, true};
 }
 
-// A point on the line through an end node's end segment other than the node itself, read from
-// the segment's first or last points.
+// The line or Bezier that starts with node index, if there is one.
+std::optional<PathSegment> SegmentStartingAt(const PathObject& path, std::size_t index) {
+    SegmentCursor cursor(path.Points(), path.Types());
+    PathSegment s;
+    while (cursor.Next(s) && s.index <= index) {
+        if (s.index == index && (s.kind == SegmentKind::Line || s.kind == SegmentKind::Bezier)) {
+            return s;
+        }
+    }
+    return std::nullopt;
+}
+
+// A point on the line through an end node's end segment other than the node itself: the first
+// of the segment's other points, nearest to the node first, that differs from it.
 std::optional<Point2> EndSegmentNeighbour(const PathObject& path, std::size_t k) {
     const Point2 p = path.PointAt(k);
     const FigureRange figure = FigureOf(path, k);
     if (figure.first == figure.last) return std::nullopt;
+    std::vector<Point2> others;
     if (k == figure.first) {
-        const std::size_t reach = node::IsBezier(path.TypeAt(k + 1)) ? 3 : 1;
-        for (std::size_t m = k + 1; m <= figure.last && m <= k + reach; ++m) {
-            if (!(path.PointAt(m) == p)) return path.PointAt(m);
-        }
-        return std::nullopt;
+        const auto s = SegmentStartingAt(path, k + 1);
+        if (s) others.assign(s->points.begin(), s->points.end());
+    } else if (const auto s = SegmentEndingAt(path, k)) {
+        others.assign(s->points.rbegin() + 1, s->points.rend());
+        others.push_back(s->start);
     }
-    const std::size_t reach = node::IsBezier(path.TypeAt(k)) ? 3 : 1;
-    for (std::size_t m = k; m-- > figure.first && m + reach >= k;) {
-        if (!(path.PointAt(m) == p)) return path.PointAt(m);
+    for (Point2 q : others) {
+        if (!(q == p)) return q;
     }
     return std::nullopt;
 }

@@ -90,12 +90,12 @@ void PathObject::DrawEdit(Device& device, const Matrix2D& view, unsigned flags) 
 
 void PathObject::Render(Device& device, const Matrix2D& view) {
     if (NodeCount() < 2) return;
+    const PathOutputMode mode = GetPathOutputMode();
     DevicePath& path = ScratchPath();
-    ConvertPath(*this, view, TypeRule::Device, path);
+    if (mode == PathOutputMode::PolyDraw) ConvertPath(*this, view, TypeRule::Device, path);
 
     const bool filled = HasFill();
     const bool stroked = HasStroke();
-    const PathOutputMode mode = GetPathOutputMode();
     DashDot dash{};
     GetDashDot(dash);
 
@@ -104,7 +104,7 @@ void PathObject::Render(Device& device, const Matrix2D& view) {
         if (mode == PathOutputMode::PolyDraw) {
             device.PolyDraw(path.points, path.types);
         } else {
-            EmitSegments(device, path);
+            EmitSegments(device, *this, view);
         }
         device.EndPath();
     };
@@ -136,7 +136,7 @@ void PathObject::Render(Device& device, const Matrix2D& view) {
         device.StrokePath();
         break;
     case PathOutputMode::ExplicitSegments:
-        EmitSegments(device, path);
+        EmitSegments(device, *this, view);
         break;
     }
 }

@@ -211,15 +211,8 @@ void PanelModel::FillPointList() {
     if (path == nullptr) return;
     DialogFields& page = Page(kPagePoints);
     const bool whole = path->NodeCount() <= kListedNodes;
-    std::string list;
-    if (whole) {
-        list = FormatPointList(*path);
-    } else {
-        PathObject head;
-        head.ReserveNodes(kListedNodes);
-        for (std::size_t i = 0; i < kListedNodes; ++i) head.AddNode(path->PointAt(i), path->TypeAt(i));
-        list = FormatPointList(head) + "...\r\n";
-    }
+    std::string list = FormatPointList(*path, kListedNodes);
+    if (!whole) list += "...\r\n";
     ++writing_;
     Put(page, IDC_PANEL_POINTS, list);
     PutEnabled(page, IDC_PANEL_POINTS, whole);
