@@ -3,7 +3,6 @@
 #include "geometry/Bezier.h"
 #include "geometry/BezierFit.h"
 #include "geometry/SegmentProximity.h"
-#include "model/Document.h"
 #include "model/PathObject.h"
 #include "model/PathSegments.h"
 
@@ -236,11 +235,7 @@ bool ConvertToLine(PathObject& path, std::size_t index) {
     return true;
 }
 
-double AddNodeTolerance(const PathObject& path) {
-    const Document* document = path.GetOwner();
-    if (document != nullptr && document->view.zoom > 0) return 5.0 / document->view.zoom;
-    return 10.0;
-}
+double AddNodeTolerance(double zoom) { return zoom > 0 ? 5.0 / zoom : 10.0; }
 
 bool AddNodeAt(PathObject& path, Point2 q, double tolerance) {
     struct Best {

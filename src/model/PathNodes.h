@@ -33,8 +33,9 @@ bool ConvertToCurve(PathObject& path, std::size_t index);
 // "In Linie": the Bezier ending at index becomes a straight segment.
 bool ConvertToLine(PathObject& path, std::size_t index);
 
-// The hit tolerance of "Hinzufuegen": five screen points in a document's view, else 10 points.
-double AddNodeTolerance(const PathObject& path);
+// The hit tolerance of "Hinzufuegen": five screen points at the canvas zoom, 10 points without
+// one (zoom 0).
+double AddNodeTolerance(double zoom);
 // "Hinzufuegen": inserts a node into the segment nearest to q within tolerance (of equally near
 // segments the earlier one); a curve is split at the nearest parameter and keeps its look.
 bool AddNodeAt(PathObject& path, Point2 q, double tolerance);

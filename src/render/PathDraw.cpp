@@ -1,8 +1,8 @@
 // The screen and device drawing of paths.
-#include "model/Document.h"
 #include "model/PathObject.h"
 #include "render/DeviceCache.h"
 #include "render/DevicePath.h"
+#include "render/DrawContext.h"
 #include "render/NodeMarks.h"
 #include "render/DrawFlags.h"
 
@@ -32,7 +32,8 @@ GdiHandle CreateScreenPen(Device& device, const PathObject& path, double zoom) {
 
 } // namespace
 
-void PathObject::DrawEdit(Device& device, const Matrix2D& view, unsigned flags) {
+void PathObject::DrawEdit(Device& device, const DrawContext& context, unsigned flags) {
+    const Matrix2D& view = context.view;
     if (NodeCount() == 0) return;
     DevicePath& path = ScratchPath();
 
@@ -70,7 +71,7 @@ void PathObject::DrawEdit(Device& device, const Matrix2D& view, unsigned flags) 
     } else if (outline) {
         penHandle = device.CreatePen(gdi::kPsSolid, 1, selected ? kBlue : 0x000000);
     } else {
-        penHandle = CreateScreenPen(device, *this, GetOwner() ? GetOwner()->view.zoom : 0.0);
+        penHandle = CreateScreenPen(device, *this, context.zoom);
     }
     const GdiHandle oldBrush = device.SelectObject(device.GetStockObject(StockObject::NullBrush));
     const GdiHandle oldPen = device.SelectObject(penHandle);

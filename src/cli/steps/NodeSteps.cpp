@@ -88,7 +88,7 @@ bool RunNode(StepContext& context, std::string_view rest) {
 
     if (op == "add") {
         if (!menu[kNodeAdd]) return Grayed(context, op);
-        AddNodeAt(*path, {x, y}, AddNodeTolerance(*path));
+        AddNodeAt(*path, {x, y}, AddNodeTolerance(context.document.view.zoom));
     } else if (op == "join-line") {
         if (!menu[kNodeJoinLine]) return Grayed(context, op);
         JoinWithLine(*path, static_cast<std::size_t>(a), static_cast<std::size_t>(b));
