@@ -74,14 +74,6 @@ TEST(CanvasMenus, ObjectMenuGraysBySelection) {
     }
 }
 
-TEST(CanvasMenus, NodeMenuWithoutSelectedNodes) {
-    Document document;
-    Add(document, Square(0, 0, 10));
-    EXPECT_EQ(Ids(BuildNodeMenu(document), true), (std::vector<int>{kNodeAdd, kNodeProperties}));
-    Add(document, NewText());
-    EXPECT_EQ(Ids(BuildNodeMenu(document), true), (std::vector<int>{kNodeAdd}));
-}
-
 class RightClick : public BoxGlyphTest {
 protected:
     RightClick() {
