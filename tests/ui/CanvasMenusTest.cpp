@@ -104,7 +104,8 @@ TEST_F(RightClick, ChosenEntriesActOnTheDrawing) {
     document.ClearSelection();
     document.AddToSelection(text);
 
-    Choose(kToolSelect, 0); // dismissed
+    Choose(kToolSelect, 0);        // dismissed
+    Choose(kToolNode, kNodeAdd); // on a text: nothing
     EXPECT_EQ(document.CurrentLayer().ChildAt(1), text);
 
     Choose(kToolSelect, kObjectTextToPath); // the path takes the text's place
@@ -128,6 +129,9 @@ TEST_F(RightClick, ChosenEntriesActOnTheDrawing) {
 
     Choose(kToolNode, kNodeToCurve); // grayed: nothing happens
     EXPECT_EQ(a->NodeCount(), 5u);
+    Document empty;
+    EXPECT_FALSE(AddHotspotAtSelection(empty));
+    EXPECT_TRUE(AddHotspotAtSelection(document));
 }
 
 } // namespace

@@ -45,6 +45,7 @@ TEST_F(Commands, EveryIdRunsRepaintsAndEnablesByTheTable) {
     EXPECT_EQ(clipboard, std::vector<int>{IDM_PASTE});
     EXPECT_EQ(host.platformCalls, (std::vector<std::string>{"about", "quit", "emf", "print", "settings"}));
 
+    EXPECT_TRUE(editor.view.switches.isometricLines); // the editor starts with them
     EXPECT_FALSE(IsEnabledNow(editor, CommandEnabling::Selection));
     EXPECT_FALSE(IsEnabledNow(editor, CommandEnabling::ClipboardText));
     AddSquare();

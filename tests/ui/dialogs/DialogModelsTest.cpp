@@ -210,6 +210,7 @@ TEST(DialogModels, OkEnabledOnlyForUsableShapes) {
         {polygon, "5", "0,1 m", true},  {polygon, "2", "10", false},   {polygon, "3", "10", true},
         {polygon, "1000000", "10", false}, {spiral, "50", "0", false}, {spiral, "50", "0,01 mm", false},
         {spiral, "50", "1 cm", true},   {spiral, "2 m", "1 cm", false}, {spiral, "3 cm", "1 cm", true},
+        {spiral, "1000", "1", true}, // a thousand turns
     };
     for (const auto& c : cases) EXPECT_EQ(c.enabled(c.first, c.second), c.expected) << c.second;
 }
