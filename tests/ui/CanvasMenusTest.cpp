@@ -74,14 +74,6 @@ TEST(CanvasMenus, ObjectMenuGraysBySelection) {
     }
 }
 
-TEST(CanvasMenus, NodeMenuWithoutSelectedNodes) {
-    Document document;
-    Add(document, Square(0, 0, 10));
-    EXPECT_EQ(Ids(BuildNodeMenu(document), true), (std::vector<int>{kNodeAdd, kNodeProperties}));
-    Add(document, NewText());
-    EXPECT_EQ(Ids(BuildNodeMenu(document), true), (std::vector<int>{kNodeAdd}));
-}
-
 class RightClick : public BoxGlyphTest {
 protected:
     RightClick() {
@@ -112,7 +104,8 @@ TEST_F(RightClick, ChosenEntriesActOnTheDrawing) {
     document.ClearSelection();
     document.AddToSelection(text);
 
-    Choose(kToolSelect, 0); // dismissed
+    Choose(kToolSelect, 0);        // dismissed
+    Choose(kToolNode, kNodeAdd); // on a text: nothing
     EXPECT_EQ(document.CurrentLayer().ChildAt(1), text);
 
     Choose(kToolSelect, kObjectTextToPath); // the path takes the text's place
@@ -136,6 +129,9 @@ TEST_F(RightClick, ChosenEntriesActOnTheDrawing) {
 
     Choose(kToolNode, kNodeToCurve); // grayed: nothing happens
     EXPECT_EQ(a->NodeCount(), 5u);
+    Document empty;
+    EXPECT_FALSE(AddHotspotAtSelection(empty));
+    EXPECT_TRUE(AddHotspotAtSelection(document));
 }
 
 } // namespace

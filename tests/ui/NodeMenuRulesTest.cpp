@@ -1,50 +1,54 @@
 #include "ui/NodeMenuRules.h"
 
+#include "model/TextObject.h"
 #include "support/Paths.h"
 
 namespace rhomba::test {
 namespace {
 
-constexpr NodeType M = node::kMoveTo, L = node::kLineTo, B = node::kBezierTo,
-                   C = node::kCloseFigure, S = node::kSelected;
+// A path from letters: m move, l line, b curve point; upper case selected, '*' closes the figure.
+std::unique_ptr<PathObject> PathOf(const std::string& nodes) {
+    auto path = std::make_unique<PathObject>();
+    for (char c : nodes) {
+        const std::size_t n = path->NodeCount();
+        if (c == '*') {
+            path->SetType(n - 1, static_cast<NodeType>(path->TypeAt(n - 1) | node::kCloseFigure));
+            continue;
+        }
+        const char kind = static_cast<char>(std::tolower(c));
+        const int type = kind == 'm' ? node::kMoveTo : kind == 'l' ? node::kLineTo : node::kBezierTo;
+        path->AddNode({n * 10.0, n % 2 * 10.0}, static_cast<NodeType>(type | (kind != c ? node::kSelected : 0)));
+    }
+    return path;
+}
 
-TEST(NodeMenuRules, SplitNeedsASelectedEndFollowedByMoreOfItsFigure) {
-    EXPECT_FALSE(SplitRule(
-        *NodePath({{{0, 0}, M}, {{10, 0}, L}, {{10, 10}, L | C}, {{20, 0}, M}, {{30, 0}, L | C}})));
-    EXPECT_TRUE(SplitRule(*NodePath({{{0, 0}, M}, {{10, 0}, L | S}, {{10, 5}, B}, {{15, 5}, B},
-                                     {{15, 10}, B | S}, {{20, 10}, L | S}})));
+// Entries 1 to 9 by their initials ("Hinzufuegen", "Verbinden mit Linie", ... "Eigenschaften"),
+// '-' where grayed.
+std::string Enabled(const GraphicObject* first) {
+    const NodeMenuState state = NodeMenuRules(first);
+    std::string out;
+    for (int entry = kNodeAdd; entry <= kNodeProperties; ++entry) out += state[entry] ? "HVSLTKIRE"[entry - 1] : '-';
+    return out;
 }
 
 TEST(NodeMenuRules, EnabledEntriesFollowTheSelectedNodes) {
-    auto owned = NodePath({{{0, 0}, M}, {{10, 0}, L}, {{10, 10}, L}, {{5, 5}, M}, {{6, 6}, L}});
-    PathObject& path = *owned;
-    NodeMenuState state = NodeMenuRules(&path);
-    EXPECT_TRUE(state[kNodeAdd]);
-    EXPECT_TRUE(state[kNodeProperties]);
-    for (int entry : {kNodeJoinLine, kNodeJoinIntersection, kNodeDelete, kNodeSplit, kNodeToCurve,
-                      kNodeToLine, kNodeReduce}) {
-        EXPECT_FALSE(state[entry]) << entry;
-    }
-    path.SetType(2, L | S);
-    path.SetType(3, M | S);
-    state = NodeMenuRules(&path);
-    EXPECT_FALSE(state[kNodeAdd]);
-    EXPECT_TRUE(state[kNodeJoinLine]);
-    EXPECT_TRUE(state[kNodeDelete]);
-    EXPECT_FALSE(state[kNodeSplit]);   // both selected nodes already end their figures
-    EXPECT_FALSE(state[kNodeToCurve]); // a selected move whose last node is not selected
-    path.SetType(3, M);
-    path.SetType(1, L | S);
-    state = NodeMenuRules(&path);
-    EXPECT_FALSE(state[kNodeJoinLine]); // node 1 is no end node
-    EXPECT_TRUE(state[kNodeSplit]);
-    EXPECT_FALSE(state[kNodeToCurve]); // two selected lines
-    path.SetType(1, L);
-    EXPECT_TRUE(NodeMenuRules(&path)[kNodeToCurve]);
-    EXPECT_FALSE(NodeMenuRules(&path)[kNodeToLine]);
-    const NodeMenuState none = NodeMenuRules(nullptr);
-    EXPECT_TRUE(none[kNodeAdd]);
-    EXPECT_FALSE(none[kNodeProperties]);
+    const std::pair<const char*, const char*> cases[] = {
+        {"mllml", "H-------E"},
+        // Two open ends: joinable; both end their figures, so nothing to split; a selected move
+        // whose figure's last node is not selected is no segment to convert.
+        {"mlLMl", "-VSL---RE"},
+        {"mLLml", "---LT--RE"},   // two lines: split, but no single segment to convert
+        {"mlLml", "---L-K-RE"},   // one line ending its figure
+        {"mlL*", "---LTK-RE"},    // a closed figure's end splits
+        {"mlbbB", "---L--IRE"},   // one curve
+        {"mLbbBL", "---LT--RE"},  // lines and a curve
+        {"mlbB", "---L---RE"},    // a curve cut short at the end is no segment
+    };
+    for (const auto& [nodes, expected] : cases) EXPECT_EQ(Enabled(PathOf(nodes).get()), expected) << nodes;
+    EXPECT_EQ(Enabled(nullptr), "H--------");
+    TextObject text;
+    EXPECT_EQ(Enabled(&text), "H--------");
+    EXPECT_FALSE(SplitRule(*PathOf("mll*ml*")));
 }
 
 } // namespace

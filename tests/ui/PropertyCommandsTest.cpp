@@ -29,11 +29,11 @@ TEST(PropertyCommands, StyleCommandsReachSelectedObjectsInsideSelectedGroups) {
     doc.AddToSelection(loose);
 
     ApplyCommand(doc, "SetPenWidth 0.5", true, nullptr);
-    ApplyCommand(doc, "SetStrokeColor 12AB34\r\nSetFillColor 0000FF\nSetFill 0", true, nullptr);
+    ApplyCommand(doc, "SetStrokeColor 19aB3f\r\nSetFillColor 0000FF\nSetFill 0", true, nullptr);
     ApplyCommand(doc, "SetDashDot 3 1 300 2 -4 0 0 0", true, nullptr);
     for (GraphicObject* object : {inner, loose}) {
         EXPECT_EQ(object->GetPenWidth(), 0.5);
-        EXPECT_EQ(object->GetStrokeColor(), 0x34AB12u);
+        EXPECT_EQ(object->GetStrokeColor(), 0x3FAB19u);
         EXPECT_EQ(object->GetFillColor(), 0xFF0000u);
         EXPECT_FALSE(object->HasFill());
         DashDot dash{};

@@ -49,6 +49,7 @@ protected:
         }
         return all;
     }
+    const PathObject& Chosen() { return static_cast<const PathObject&>(*document.Selection().front()); }
     Document document;
     CanvasView view{document};
     FakeCanvasHost host;
@@ -120,7 +121,9 @@ TEST_F(Tools, HandleDragsScaleMirrorAndMove) {
         {"edge: its own axis", false, {150, 400}, {180, 350}, SizeNs, {100, 250, 200, 100}},
         {"across the fixed side", false, {200, 450}, {50, 450}, SizeWe, {50, 200, 100, 100}},
         {"inside: moved", false, {150, 450}, {170, 430}, SizeAll, {120, 220, 220, 120}},
-        {"click: nothing", false, {200, 400}, {200, 400}, SizeNeSw, {100, 200, 200, 100}},
+        {"on the edge: moved", false, {130, 400}, {140, 410}, SizeAll, {110, 190, 210, 90}},
+        {"other corner", false, {200, 400}, {250, 300}, SizeNeSw, {100, 250, 250, 100}},
+        {"click: nothing", false, {100, 400}, {100, 400}, SizeNwSe, {100, 200, 200, 100}},
         {"no width: the other factor", true, {100, 500}, {150, 550}, SizeNwSe, {100, 200, 100, 50}},
     };
     for (const Case& c : cases) {
@@ -208,38 +211,29 @@ TEST_F(Tools, PathToolSnapsToFifteenDegreesWithCtrl) {
     }
 }
 
-TEST_F(Tools, PathToolContinuesANearPathOrStartsAFreshOne) {
+// A click within 5 pixels of a selected path's end continues it, else a fresh path starts; a
+// click within 5 pixels of the figure's first node closes it and ends drawing, so does a double
+// click. Continuing from the first node itself closes nothing.
+TEST_F(Tools, PathToolContinuesClosesAndEnds) {
     auto* old = Add(document, Polyline({{100, 100}, {200, 100}}));
     tools.SetTool(kToolPath);
-    Click(203, 497); // within 5 pixels of the end
-    Click(300, 500);
-    tools.KeyDown(kVirtualKeyEscape);
-    ExpectPoints(*old, {{100, 100}, {200, 100}, {300, 100}}, 0);
+    for (DevicePoint p : {DevicePoint{203, 497}, {300, 500}, {300, 400}, {102, 498}}) Click(p.x, p.y);
+    ExpectSettled();
+    ExpectPoints(*old, {{100, 100}, {200, 100}, {300, 100}, {300, 200}}, 0);
+    EXPECT_EQ(old->Types().back(), L | node::kCloseFigure);
 
-    Click(310, 500); // 10 pixels from the end
+    Add(document, Polyline({{0, 0}, {50, 0}, {50, 50}}));
+    for (DevicePoint p : {DevicePoint{2, 598}, {1, 599}}) Click(p.x, p.y);
+    tools.KeyDown(kVirtualKeyEscape);
+    EXPECT_EQ(Chosen().Types(), (std::vector<NodeType>{M, L, L, M, L}));
+
+    Click(410, 500); // far from the selected path
     EXPECT_TRUE(document.Selection().empty());
-    Click(400, 500);
-    tools.KeyDown(kVirtualKeyEscape);
-    ASSERT_EQ(Objects().size(), 2u);
-    ExpectPoints(static_cast<PathObject&>(*Objects()[1]), {{310, 100}, {400, 100}}, 0);
-    EXPECT_EQ(old->NodeCount(), 3u);
+    Click(500, 500);
+    tools.DoubleClick(500, 500, 0);
     ExpectSettled();
-}
-
-TEST_F(Tools, PathToolClosesAtTheFirstNodeAndEndsOnADoubleClick) {
-    tools.SetTool(kToolPath);
-    for (DevicePoint p : {DevicePoint{100, 500}, {200, 500}, {200, 400}, {103, 497}}) {
-        Click(p.x, p.y);
-    }
-    ExpectSettled();
-    const auto& closed = static_cast<const PathObject&>(*document.Selection().front());
-    EXPECT_EQ(closed.Types(), (std::vector<NodeType>{M, L, L | node::kCloseFigure}));
-
-    Click(300, 500);
-    Click(400, 500);
-    tools.DoubleClick(400, 500, 0);
-    ExpectSettled();
-    EXPECT_EQ(static_cast<const PathObject&>(*document.Selection().front()).NodeCount(), 2u);
+    ASSERT_EQ(Objects().size(), 3u);
+    ExpectPoints(Chosen(), {{410, 100}, {500, 100}}, 0);
 }
 
 // A line, a curve and a line: nodes 0 (100, 100), controls 1 and 2, end 3 (200, 130), 4 (200, 200).
@@ -279,7 +273,7 @@ TEST_F(NodeTool, DraggingANodeTakesItsControlsAlong) {
 TEST_F(NodeTool, RubberBandSelectsNodesButNoControls) {
     Drag({{90, 510}, {140, 490}}); // node 0 and control 1
     EXPECT_EQ(SelectedNodes(), (std::vector<bool>{true, false, false, false, false}));
-    Drag({{190, 390}, {210, 410}}, kShift); // adds node 4
+    Drag({{200, 435}, {210, 390}}, kShift); // from the path itself: adds node 4
     EXPECT_EQ(SelectedNodes(), (std::vector<bool>{true, false, false, false, true}));
     Click(400, 100); // beside every node
     EXPECT_EQ(SelectedNodes(), (std::vector<bool>(5, false)));

@@ -17,11 +17,11 @@ namespace {
 constexpr int kWidth = 220;
 constexpr int kHeight = 160;
 
-// A square and a curve, both selected.
-void AddDrawing(Document& document) {
-    GraphicObject* square = test::Add(document, test::Square(10, 20, 100));
-    test::Add(document,
-              test::NodePath({{{0, 0}, 6}, {{30, 90}, 4}, {{90, 120}, 4}, {{60, 140}, 4}}));
+// A square and a curve, both selected, moved right by shift.
+void AddDrawing(Document& document, double shift = 0) {
+    GraphicObject* square = test::Add(document, test::Square(10 + shift, 20, 100));
+    test::Add(document, test::NodePath({{{shift, 0}, 6}, {{shift + 30, 90}, 4},
+                                        {{shift + 90, 120}, 4}, {{shift + 60, 140}, 4}}));
     document.AddToSelection(square);
 }
 
@@ -72,6 +72,17 @@ TEST(PlanePreview, ShowsWhatOkWouldMakeOverTheThreeAxes) {
         EXPECT_EQ(device.LiveObjects(), 0u);
         EXPECT_EQ(SaveNativeText(shown), before);
     }
+}
+
+// The axes reach from the selection's centre as far as its larger side, wherever it lies.
+TEST(PlanePreview, AxesReachAsFarAsTheSelectionsLargerSide) {
+    Document document;
+    AddDrawing(document, 1000);
+    PlanePreview preview(document);
+    RecordingDevice device;
+    preview.Paint(device, kWidth, kHeight, {{}, kPlaneZY, kAxisY, 30, kAxisZ, -45, false});
+    EXPECT_EQ(device.CallsNamed("LineTo"),
+              (std::vector<std::string>{"LineTo 156 90", "LineTo 114 17", "LineTo 71 90"}));
 }
 
 // Selections without size or with points beyond measure still show the axes inside the field.
