@@ -150,8 +150,7 @@ private:
 } // namespace
 
 void PathObject::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
-    const std::size_t count = NodeCount();
-    if (count < 2) return;
+    if (NodeCount() < 2 || !HasFinitePoints()) return;
     out.Indent(depth);
     out.Append("<path style=\"");
     out.StrokeStyle(HasStroke(), GetStrokeColor(), GetPenWidth(), dash_, GetDashCount(), 1.0);

@@ -6,6 +6,7 @@
 #include "model/Reporter.h"
 #include "model/Windows1252.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace rhomba {
@@ -52,10 +53,12 @@ std::string BuildTextImport(const ClipboardText& text, Reporter& reporter) {
                           number);
             if (!reporter.Ask(ask)) break;
         }
-        const std::size_t newline = rest.find('\n');
-        std::string_view line = rest.substr(0, newline);
-        rest = newline == std::string_view::npos ? std::string_view{} : rest.substr(newline + 1);
-        while (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+        // Lines end at LF, CR LF or a lone CR, as the reader's do: a CR kept inside a line would
+        // end its Text line early and make the rest a line of drawing commands.
+        const std::size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
+        const std::string_view line = rest.substr(0, end);
+        const bool crlf = rest.substr(end, 2) == "\r\n";
+        rest.remove_prefix(std::min(rest.size(), end + (crlf ? 2 : 1)));
         if (line.empty()) continue;
         char head[48];
         std::snprintf(head, sizeof head, "Text F %d %d ", 20, 810 - 10 * number);

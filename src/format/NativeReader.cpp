@@ -46,8 +46,9 @@ struct Fields {
         if (p < end && IsSeparator(*p)) ++p;
         return {p, static_cast<std::size_t>(end - p)};
     }
-    // A decimal number as strtod reads it; anything else reads as 0. The rest of the word is
-    // skipped either way, so one bad field does not shift the others.
+    // A decimal number as strtod reads it; anything else, a number too large for a double
+    // included, reads as 0. The rest of the word is skipped either way, so one bad field does
+    // not shift the others.
     double Number() {
         SkipBlanks();
         const char* start = p;
@@ -62,7 +63,7 @@ struct Fields {
             }
             const auto result = std::from_chars(start, end, value);
             if (result.ec == std::errc::result_out_of_range) {
-                // Out of range: strtod's answer, +-HUGE_VAL or 0.
+                // Out of range: what a typed number gives, 0 for an overflow.
                 std::size_t used = 0;
                 value = ReadLeadingNumber(
                     std::string_view(start, static_cast<std::size_t>(result.ptr - start)), used);

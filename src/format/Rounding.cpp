@@ -15,6 +15,12 @@ constexpr std::uint64_t kPowers[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 1
 
 int ClampDecimals(int decimals) { return decimals < 0 ? 0 : decimals > 6 ? 6 : decimals; }
 
+// The rounded value times 10^decimals, as an integral double.
+double RoundScaled(double value, int decimals) {
+    const double scaled = value * kScale[decimals];
+    return value >= 0 ? std::floor(scaled + 0.5) : std::ceil(scaled - 0.5);
+}
+
 int DigitCount(std::uint64_t m) {
     int count = 1;
     while (m >= 10) m /= 10, ++count;
@@ -57,7 +63,7 @@ double RoundDecimals(double value, int decimals) {
     decimals = ClampDecimals(decimals);
     // Beyond 2^52 / 10^6 a double has no decimals left to round, and scaling could overflow.
     if (!(std::fabs(value) < 4.0e9)) return value;
-    return std::round(value * kScale[decimals]) / kScale[decimals];
+    return RoundScaled(value, decimals) / kScale[decimals];
 }
 
 void AppendRounded(std::string& out, double value, int decimals) {
@@ -67,7 +73,7 @@ void AppendRounded(std::string& out, double value, int decimals) {
     // an ulp. Printed to six significant digits it shows n's own digits, rounded at the sixth:
     // the double's error is far below one unit of n, so only an exact tie in n needs the
     // general formatter to look at the binary value.
-    const double scaled = std::round(value * kScale[decimals]);
+    const double scaled = RoundScaled(value, decimals);
     if (!(std::fabs(value) < 1.0e9) || scaled == 0) {
         AppendG(out, rounded);
         return;

@@ -4,6 +4,7 @@
 #include "geometry/NumberText.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace rhomba {
 
@@ -52,7 +53,10 @@ double ParseLength(std::string_view text) {
     const std::string_view rest = Trim(std::string_view(copy).substr(end));
     if (rest.empty()) return value;
     for (const Unit& unit : kUnits) {
-        if (rest == unit.text) return Convert(value, unit);
+        if (rest != unit.text) continue;
+        // A length beyond what a double holds reads as 0, as unreadable text does.
+        const double millimetres = Convert(value, unit);
+        return std::isfinite(millimetres) ? millimetres : 0;
     }
     return value;
 }

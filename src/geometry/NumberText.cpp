@@ -1,6 +1,7 @@
 #include "geometry/NumberText.h"
 
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 
 namespace rhomba {
@@ -42,14 +43,23 @@ double ReadLeadingNumber(std::string_view text, std::size_t& end) {
         end = 0;
         return 0;
     }
-    end = pos + length;
-    // strtod on the scanned extent alone: it gives the overflow and rounding behaviour of the
+    // strtod on the scanned extent alone: it gives the rounding and underflow behaviour of the
     // C library, and the program never changes the C locale, so '.' is the decimal point.
     const std::string number(text.substr(pos, length));
-    return std::strtod(number.c_str(), nullptr);
+    const double value = std::strtod(number.c_str(), nullptr);
+    if (!std::isfinite(value)) {
+        end = 0;
+        return 0;
+    }
+    end = pos + length;
+    return value;
 }
 
 void AppendG(std::string& out, double value) {
+    if (value == 0 || !std::isfinite(value)) {
+        out.push_back('0');
+        return;
+    }
     char buffer[32];
     const auto result = std::to_chars(buffer, buffer + sizeof buffer, value,
                                       std::chars_format::general, 6);

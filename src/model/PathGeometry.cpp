@@ -11,7 +11,7 @@
 namespace rhomba {
 
 bool PathObject::GetBounds(Rect2& bounds, bool withPenWidth) {
-    if (points_.empty()) return false;
+    if (points_.empty() || !HasFinitePoints()) return false;
     // Note: the box of all points, control points included, not the exact curve extent: every
     // transformation centres on this box, so it has to be cheap to predict.
     Rect2 box = Rect2::Empty();

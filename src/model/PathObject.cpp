@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 
@@ -35,6 +36,11 @@ void PathObject::Describe(std::string& out) const {
 
 void PathObject::Transform(const Matrix2D& matrix) {
     for (Point2& p : points_) p = matrix.TransformPoint(p);
+}
+
+bool PathObject::HasFinitePoints() const {
+    return std::all_of(points_.begin(), points_.end(),
+                       [](Point2 p) { return std::isfinite(p.x) && std::isfinite(p.y); });
 }
 
 void PathObject::SetStrokeColor(ColorRef color) { stroke_ = WithColour(stroke_, color); }

@@ -59,6 +59,10 @@ public:
     void WrapCylinder(const CylinderWrapParams& params) override;
     void RotateIsoPlane(const PlaneRotationParams& params) override;
 
+    // False when a coordinate is infinite or not a number (an overflowing move or generator):
+    // such a path draws nothing, measures nothing and is left out of SVG and EMF.
+    bool HasFinitePoints() const;
+
     std::size_t NodeCount() const { return points_.size(); }
     const std::vector<Point2>& Points() const { return points_; }
     const std::vector<NodeType>& Types() const { return types_; }

@@ -13,9 +13,7 @@ namespace {
 
 // Millimetres to a thousandth: finer than any screen shows, coarse enough to read.
 void AppendMillimetres(std::string& out, double points) {
-    double mm = std::round(points / kPointsPerMillimetre * 1000) / 1000;
-    if (mm == 0) mm = 0; // no "-0"
-    std::string text = FormatG(mm);
+    std::string text = FormatG(std::round(points / kPointsPerMillimetre * 1000) / 1000);
     for (char& c : text) {
         if (c == '.') c = ',';
     }
@@ -24,14 +22,6 @@ void AppendMillimetres(std::string& out, double points) {
 
 // The words of a point list line, separated by blanks, tabs, semicolons or a CR.
 std::vector<std::string_view> Words(std::string_view line) { return SplitWords(line, " \t;\r"); }
-
-// A finite number filling the word.
-bool ReadNumber(std::string_view word, double& value) {
-    double read = 0;
-    if (!ReadWholeNumber(word, read) || !std::isfinite(read)) return false;
-    value = read;
-    return true;
-}
 
 char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
@@ -77,7 +67,7 @@ bool ParsePointList(std::string_view input, NodeRun& out) {
         std::size_t w = 0;
         NodeType kind = run.types.empty() ? node::kMoveTo : node::kLineTo;
         double x = 0, y = 0;
-        if (!ReadNumber(words[0], x)) {
+        if (!ReadWholeNumber(words[0], x)) {
             if (words[0].size() != 1) return false;
             switch (Upper(words[0][0])) {
             case 'M': kind = node::kMoveTo; break;
@@ -87,7 +77,10 @@ bool ParsePointList(std::string_view input, NodeRun& out) {
             }
             w = 1;
         }
-        if (words.size() < w + 2 || !ReadNumber(words[w], x) || !ReadNumber(words[w + 1], y)) return false;
+        if (words.size() < w + 2 || !ReadWholeNumber(words[w], x) ||
+            !ReadWholeNumber(words[w + 1], y)) {
+            return false;
+        }
         bool closes = false;
         if (words.size() == w + 3) {
             if (Upper(words[w + 2][0]) != 'Z' || words[w + 2].size() != 1) return false;
@@ -107,7 +100,9 @@ bool ParsePointList(std::string_view input, NodeRun& out) {
             bezierRun = 0;
         }
         if (closes && (kind == node::kMoveTo || (kind == node::kBezierTo && bezierRun != 3))) return false;
-        run.points.push_back({x * kPointsPerMillimetre, y * kPointsPerMillimetre});
+        const Point2 p{x * kPointsPerMillimetre, y * kPointsPerMillimetre};
+        if (!std::isfinite(p.x) || !std::isfinite(p.y)) return false;
+        run.points.push_back(p);
         run.types.push_back(static_cast<NodeType>(kind | (closes ? node::kCloseFigure : 0)));
     }
     if (bezierRun % 3 != 0 || run.points.size() < 2) return false;

@@ -35,7 +35,7 @@ GdiHandle CreateScreenPen(Device& device, const PathObject& path, double zoom) {
 
 void PathObject::DrawEdit(Device& device, const DrawContext& context, unsigned flags) {
     const Matrix2D& view = context.view;
-    if (NodeCount() == 0) return;
+    if (NodeCount() == 0 || !HasFinitePoints()) return;
     DevicePath& path = ScratchPath();
 
     if (flags & kDrawNodesOnly) {
@@ -91,7 +91,7 @@ void PathObject::DrawEdit(Device& device, const DrawContext& context, unsigned f
 }
 
 void PathObject::Render(Device& device, const Matrix2D& view) {
-    if (NodeCount() < 2) return;
+    if (NodeCount() < 2 || !HasFinitePoints()) return;
     const PathOutputMode mode = GetPathOutputMode();
     DevicePath& path = ScratchPath();
     if (mode == PathOutputMode::PolyDraw) ConvertPath(*this, view, TypeRule::Device, path);

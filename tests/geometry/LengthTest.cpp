@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace rhomba {
 namespace {
 
@@ -62,7 +60,7 @@ TEST(ReadLeadingNumber, StopsWhereTheNumberEnds) {
     EXPECT_EQ(ReadLeadingNumber(".5", end), 0.5);
     EXPECT_EQ(ReadLeadingNumber("-.", end), 0);
     EXPECT_EQ(end, 0u);
-    EXPECT_TRUE(std::isinf(ReadLeadingNumber("1e400", end)));
+    EXPECT_TRUE(ReadLeadingNumber("1e400", end) == 0 && end == 0); // too large is no number
 }
 
 } // namespace
