@@ -4,19 +4,45 @@
 #include "export/SvgWriter.h"
 #include "format/NativeReader.h"
 #include "model/Document.h"
+#include "model/Windows1252.h"
 #ifdef _WIN32
 #include "win32/EmfFileWriter.h"
 #endif
 
+#include <algorithm>
 #include <cctype>
 #include <ostream>
 
 namespace rhomba::cli {
 
-void StreamReporter::Inform(std::string_view message) { stream_ << message << '\n'; }
+std::string TerminalText(std::string_view message) {
+    std::string out;
+    out.reserve(message.size());
+    for (std::size_t i = 0; i < message.size();) {
+        const auto lead = static_cast<unsigned char>(message[i]);
+        // The length of a well-formed UTF-8 sequence starting here, 0 when there is none.
+        const std::size_t length = lead >= 0xC2 && lead <= 0xDF ? 2
+                                 : lead >= 0xE0 && lead <= 0xEF ? 3
+                                 : lead >= 0xF0 && lead <= 0xF4 ? 4
+                                                                : 0;
+        bool sequence = length != 0 && i + length <= message.size();
+        for (std::size_t k = 1; sequence && k < length; ++k) {
+            sequence = (static_cast<unsigned char>(message[i + k]) & 0xC0) == 0x80;
+        }
+        if (sequence) {
+            out.append(message.substr(i, length));
+            i += length;
+        } else {
+            AppendCp1252AsUtf8(out, message[i++]);
+        }
+    }
+    return out;
+}
+
+void StreamReporter::Inform(std::string_view message) { stream_ << TerminalText(message) << '\n'; }
 
 bool StreamReporter::Ask(std::string_view question) {
-    stream_ << question << " -> ja\n";
+    stream_ << TerminalText(question) << " -> ja\n";
     return true;
 }
 
@@ -30,7 +56,10 @@ constexpr const char* kUsage =
 #ifdef _WIN32
     "OUT ending in .emf is written as an enhanced metafile.\n"
 #endif
-    "Each STEP is one argument, a keyword and its words:\n";
+    "Each STEP is a keyword followed by its words; quote a word that holds blanks:\n"
+    "  rhomba-cli apply in.rhomba out.svg select all iso links rotate 90 ccw\n"
+    "  rhomba-cli apply in.rhomba out.rhomba select name Rahmen move 2,5 '-3 mm'\n"
+    "The steps:\n";
 
 int Usage(std::ostream& err) {
     err << kUsage;
@@ -47,14 +76,44 @@ bool EndsWith(const std::string& text, std::string_view suffix) {
     return text.size() >= suffix.size() && Lower(text.substr(text.size() - suffix.size())) == suffix;
 }
 
-const Step* FindStep(std::string_view argument, std::string_view& rest) {
-    const std::size_t blank = argument.find(' ');
-    const std::string_view keyword = argument.substr(0, blank);
-    rest = blank == std::string_view::npos ? std::string_view{} : argument.substr(blank + 1);
+const Step* FindStep(std::string_view keyword) {
     for (const Step& step : AllSteps()) {
         if (step.keyword == keyword) return &step;
     }
     return nullptr;
+}
+
+// One step as read from the command line: the step, its words, and how it was typed.
+struct PlannedStep {
+    const Step* step;
+    std::vector<std::string> words;
+    std::string typed;
+};
+
+// Reads the steps from args: a keyword of its own takes the words its grammar asks for; an
+// argument that starts with a keyword and a blank is a whole step. False (after telling err)
+// at the first argument that is neither.
+bool PlanSteps(StepWords args, std::vector<PlannedStep>& plan, std::ostream& err) {
+    for (std::size_t i = 0; i < args.size();) {
+        const std::string& argument = args[i++];
+        if (const Step* step = FindStep(argument)) {
+            const StepWords next = args.subspan(i);
+            const std::size_t count = std::min(step->takes(next), next.size());
+            PlannedStep planned{step, {next.begin(), next.begin() + count}, argument};
+            for (const std::string& word : planned.words) planned.typed += " " + word;
+            plan.push_back(std::move(planned));
+            i += count;
+            continue;
+        }
+        const std::size_t blank = argument.find(' ');
+        const Step* step = blank == std::string::npos ? nullptr : FindStep(argument.substr(0, blank));
+        if (step == nullptr) {
+            err << "rhomba-cli: unknown step '" << argument << "'\n";
+            return false;
+        }
+        plan.push_back({step, step->split(std::string_view(argument).substr(blank + 1)), argument});
+    }
+    return true;
 }
 
 int Convert(const std::string& in, const std::string& out, std::ostream& err) {
@@ -81,14 +140,9 @@ int Info(const std::string& in, std::ostream& out, std::ostream& err) {
 }
 
 int Apply(const std::vector<std::string>& args, std::ostream& err) {
-    // Every step is checked before anything is loaded, so a typo costs no work.
-    for (std::size_t i = 2; i < args.size(); ++i) {
-        std::string_view rest;
-        if (FindStep(args[i], rest) == nullptr) {
-            err << "rhomba-cli: unknown step '" << args[i] << "'\n";
-            return Usage(err);
-        }
-    }
+    // Every step is read before anything is loaded, so a typo costs no work.
+    std::vector<PlannedStep> plan;
+    if (!PlanSteps(StepWords(args).subspan(2), plan, err)) return Usage(err);
     StreamReporter reporter(err);
     Document document;
     if (args[0] == "-") {
@@ -97,16 +151,15 @@ int Apply(const std::vector<std::string>& args, std::ostream& err) {
         return kExitFailed;
     }
     StepContext context{document, reporter};
-    for (std::size_t i = 2; i < args.size(); ++i) {
-        std::string_view rest;
-        const Step* step = FindStep(args[i], rest);
-        if (!step->run(context, rest)) {
-            err << "rhomba-cli: step '" << args[i] << "' not usable; expected: " << step->usage
-                << '\n';
+    for (const PlannedStep& planned : plan) {
+        if (!planned.step->run(context, planned.words)) {
+            err << "rhomba-cli: step '" << planned.typed << "' not usable; expected: "
+                << planned.step->usage << '\n';
             return kExitUsage;
         }
     }
-    return SaveByExtension(document, args[1], reporter) ? kExitOk : kExitFailed;
+    const bool saved = SaveByExtension(document, args[1], reporter);
+    return saved && !context.writeFailed ? kExitOk : kExitFailed;
 }
 
 } // namespace
@@ -116,9 +169,7 @@ bool SaveByExtension(Document& document, const std::string& path, Reporter& repo
 #ifdef _WIN32
     if (EndsWith(path, ".emf")) return ExportEmfFile(document, path, reporter);
 #endif
-    if (SaveNativeFile(document, path)) return true;
-    InformCannotWrite(reporter, path);
-    return false;
+    return SaveNativeFile(document, path, reporter);
 }
 
 void WriteInfo(Document& document, std::ostream& out) {
@@ -133,12 +184,13 @@ void WriteInfo(Document& document, std::ostream& out) {
         work.pop_back();
         GraphicObject& object = *item.object;
         object.Describe(text);
-        out << std::string(static_cast<std::size_t>(item.depth) * 2, ' ')
-            << static_cast<int>(object.GetKind()) << " #" << object.GetId() << ' ' << text;
-        if (!object.GetName().empty()) out << " \"" << object.GetName() << '"';
-        if (object.IsHidden()) out << " hidden";
-        if (object.IsSelected()) out << " selected";
-        out << '\n';
+        std::string line = std::string(static_cast<std::size_t>(item.depth) * 2, ' ') +
+                           std::to_string(static_cast<int>(object.GetKind())) + " #" +
+                           std::to_string(object.GetId()) + ' ' + text;
+        if (!object.GetName().empty()) line += " \"" + object.GetName() + '"';
+        if (object.IsHidden()) line += " hidden";
+        if (object.IsSelected()) line += " selected";
+        out << TerminalText(line) << '\n';
         if (IsContainer(object)) {
             const Group& group = static_cast<const Group&>(object);
             for (std::size_t i = group.ChildCount(); i-- > 0;) {

@@ -8,8 +8,17 @@
 
 #include <iostream>
 
+#ifdef _WIN32
+// Declared here rather than taken from <windows.h>, which only the Win32 shell includes.
+extern "C" __declspec(dllimport) int __stdcall SetConsoleOutputCP(unsigned codePage);
+#endif
+
 int main(int argc, char** argv) {
     std::vector<std::string> args(argv + 1, argv + argc);
+#ifdef _WIN32
+    // The messages are written in UTF-8, as on Linux; the console is told so.
+    SetConsoleOutputCP(65001);
+#endif
     // Texts are measured, exported and converted through their glyph outlines.
 #ifdef RHOMBA_HAVE_FREETYPE
     static rhomba::FreeTypeGlyphSource glyphs;

@@ -1,5 +1,6 @@
 #include "export/SvgWriter.h"
 
+#include "format/FileWrite.h"
 #include "format/Rounding.h"
 #include "geometry/NumberText.h"
 #include "model/Colour.h"
@@ -8,8 +9,10 @@
 #include "model/PathObject.h"
 #include "model/PathSegments.h"
 #include "model/Reporter.h"
+#include "model/Windows1252.h"
 
 #include <cstdio>
+#include <new>
 #include <vector>
 
 namespace rhomba {
@@ -80,13 +83,25 @@ void SvgWriter::TrimTrailingBlanks() {
     while (!out_.empty() && out_.back() == ' ') out_.pop_back();
 }
 
-void SvgWriter::Escaped(std::string_view text) {
+void SvgWriter::Escaped(std::string_view text) { Xml(text, false); }
+
+void SvgWriter::EscapedAttribute(std::string_view text) { Xml(text, true); }
+
+void SvgWriter::Xml(std::string_view text, bool attribute) {
     for (char c : text) {
-        switch (c) {
-        case '&': out_.append("&amp;"); break;
-        case '<': out_.append("&lt;"); break;
-        case '>': out_.append("&gt;"); break;
-        default: out_.push_back(c); break;
+        const auto byte = static_cast<unsigned char>(c);
+        if (c == '&') {
+            out_.append("&amp;");
+        } else if (c == '<') {
+            out_.append("&lt;");
+        } else if (c == '>' && !attribute) {
+            out_.append("&gt;");
+        } else if (c == '"' && attribute) {
+            out_.append("&quot;");
+        } else if (byte >= 0x80) {
+            AppendCp1252AsUtf8(out_, c);
+        } else if (byte >= 0x20 || c == '\t' || c == '\n' || c == '\r') {
+            out_.push_back(c);
         }
     }
 }
@@ -204,7 +219,7 @@ void Group::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
     }
 }
 
-std::string BuildSvgDocument(Document& document) {
+void WriteSvgDocument(Document& document, SvgWriter& out) {
     Rect2 box;
     // An empty drawing has no box; it gets a zero-sized picture rather than the negative size
     // that the empty-drawing mark would give, which renderers refuse.
@@ -212,7 +227,6 @@ std::string BuildSvgDocument(Document& document) {
         box = {0, 0, 0, 0};
     }
     const Matrix2D matrix{1, 0, 0, -1, -box.left, box.top};
-    SvgWriter out;
     out.Append("<?xml version=\"1.0\"?>\r\n");
     out.Append("<!DOCTYPE svg>\r\n");
     out.Append("<svg xmlns=\"http://www.w3.org/2000/svg\"");
@@ -227,19 +241,24 @@ std::string BuildSvgDocument(Document& document) {
     document.Group::ExportSvg(out, matrix, 1);
     out.Append("</g>\r\n");
     out.Append("</svg>");
+}
+
+std::string BuildSvgDocument(Document& document) {
+    SvgWriter out;
+    WriteSvgDocument(document, out);
     return out.Take();
 }
 
 bool ExportSvgFile(Document& document, const std::string& path, Reporter& reporter) {
-    std::FILE* file = std::fopen(path.c_str(), "wb");
-    if (file == nullptr) {
-        InformCannotWrite(reporter, path);
+    SvgWriter out;
+    try {
+        WriteSvgDocument(document, out);
+    } catch (const std::bad_alloc&) {
+        // The size the text had reached when the next piece found no room.
+        InformOutOfMemory(reporter, out.Text().size());
         return false;
     }
-    const std::string text = BuildSvgDocument(document);
-    std::fwrite(text.data(), 1, text.size(), file);
-    std::fclose(file);
-    return true;
+    return WriteFileSafely(path, out.Text(), reporter);
 }
 
 } // namespace rhomba

@@ -47,21 +47,27 @@ public:
     void Colour(ColorRef color);
     // Removes blanks at the end of the text.
     void TrimTrailingBlanks();
-    // Text content with "&", "<" and ">" escaped; all other bytes as they are.
+    // Text content: "&", "<" and ">" escaped, the Windows-1252 bytes as UTF-8 (the file declares
+    // no encoding, so readers take UTF-8), control bytes that XML forbids left out.
     void Escaped(std::string_view text);
+    // The same for an attribute value between double quotes: "&", "<" and '"' escaped.
+    void EscapedAttribute(std::string_view text);
     // The number that makes a layer or group id unique within this export.
     std::uint32_t UniqueNumber(const GraphicObject& object);
 
 private:
+    void Xml(std::string_view text, bool attribute);
+
     std::string out_;
     std::uint32_t nextUnique_ = 0;
 };
 
-// The whole drawing as one SVG document.
+// The whole drawing as one SVG document, into out.
+void WriteSvgDocument(Document& document, SvgWriter& out);
 std::string BuildSvgDocument(Document& document);
 
-// Builds the document and writes it to path; on failure informs the reporter
-// (InformCannotWrite) and returns false.
+// Builds the document and writes it to path (WriteFileSafely); on failure, running out of
+// memory included, informs the reporter and returns false.
 bool ExportSvgFile(Document& document, const std::string& path, Reporter& reporter);
 
 } // namespace rhomba

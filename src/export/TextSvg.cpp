@@ -46,7 +46,7 @@ void TextObject::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
     out.Append(")\"");
 
     out.Append(" style=\"font-family: ");
-    out.Append(SvgFontFamily(font_));
+    out.EscapedAttribute(SvgFontFamily(font_));
     out.Append("; font-size: 16; ");
     if (IsItalic()) out.Append("font-style: italic; ");
     if (IsBold()) out.Append("font-weight: bold; ");

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <new>
+#include <vector>
 
 namespace rhomba {
 
@@ -70,17 +72,40 @@ std::string BuildTextImport(const ClipboardText& text, Reporter& reporter) {
     return native;
 }
 
+namespace {
+
+// Parses native text into the drawing in place of the selection; when memory runs out the
+// drawing and the selection stay as they were and the reporter hears of it.
+bool PasteNative(Document& document, std::string_view native, std::size_t size, Reporter& reporter) {
+    std::vector<GraphicObject*> selected;
+    try {
+        selected = document.Selection();
+    } catch (const std::bad_alloc&) {
+        InformOutOfMemory(reporter, size);
+        return false;
+    }
+    document.ClearSelection();
+    if (ParseNative(document, native, true)) return true;
+    for (GraphicObject* object : selected) document.AddToSelection(object);
+    InformOutOfMemory(reporter, size);
+    return false;
+}
+
+} // namespace
+
 bool PasteText(Document& document, const ClipboardText& text, Reporter& reporter) {
     if (StartsWithProductWord(text.bytes)) {
-        document.ClearSelection();
-        ParseNative(document, text.bytes, true);
-        return true;
+        return PasteNative(document, text.bytes, text.bytes.size(), reporter);
     }
-    const std::string native = BuildTextImport(text, reporter);
+    std::string native;
+    try {
+        native = BuildTextImport(text, reporter);
+    } catch (const std::bad_alloc&) {
+        InformOutOfMemory(reporter, text.bytes.size());
+        return false;
+    }
     if (native.empty()) return false;
-    document.ClearSelection();
-    ParseNative(document, native, true);
-    return true;
+    return PasteNative(document, native, text.bytes.size(), reporter);
 }
 
 } // namespace rhomba

@@ -26,7 +26,9 @@ ClipboardText FromUnicodeClipboard(std::u16string_view text);
 
 // "Einfuegen": native text is parsed into the current layer and selected; any other text is
 // offered as a group of text objects, one per line, after asking through reporter. Returns
-// true when something was parsed into the drawing.
+// true when something was parsed into the drawing. Running out of memory is reported
+// ("Nicht genügend Speicher (%d Bytes)." with the size of the text) and leaves the drawing and
+// its selection as they were.
 bool PasteText(Document& document, const ClipboardText& text, Reporter& reporter);
 
 // The native text that the plain-text import builds, asking reporter its questions; empty when

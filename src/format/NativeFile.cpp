@@ -1,80 +1,106 @@
+#include "format/FileWrite.h"
 #include "format/NativeReader.h"
 #include "format/NativeWriter.h"
 #include "model/Document.h"
+#include "model/Reporter.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <new>
 
-#if defined(_WIN32)
-#include <io.h>
+#include <sys/stat.h>
 
-// Declared here rather than taken from <windows.h>, which only the Win32 shell includes.
-extern "C" __declspec(dllimport) int __stdcall MoveFileExA(const char* existing,
-                                                           const char* replacement,
-                                                           unsigned long flags);
-#else
-#include <unistd.h>
+#if defined(_WIN32) && !defined(S_ISREG)
+#define S_ISREG(mode) (((mode) & _S_IFMT) == _S_IFREG)
 #endif
 
 namespace rhomba {
 
 namespace {
 
-bool WriteAll(std::FILE* file, const std::string& text) {
-    return std::fwrite(text.data(), 1, text.size(), file) == text.size() && std::fflush(file) == 0;
-}
-
-// Makes the bytes durable before the rename publishes them, so that a crash cannot leave the
-// new name pointing at an empty file.
-void Sync(std::FILE* file) {
+// The status of an open file, with a 64-bit length on both systems.
 #if defined(_WIN32)
-    ::_commit(::_fileno(file));
+using FileStatus = struct _stat64;
+int FileStatusOf(std::FILE* file, FileStatus* status) { return ::_fstat64(_fileno(file), status); }
 #else
-    ::fsync(::fileno(file));
+using FileStatus = struct stat;
+int FileStatusOf(std::FILE* file, FileStatus* status) { return ::fstat(fileno(file), status); }
 #endif
-}
 
-// Puts from in the place of to in one step. Names are Windows-1252 bytes, which the ANSI call
-// takes as they are.
-bool ReplaceFile(const std::string& from, const std::string& to) {
-#if defined(_WIN32)
-    constexpr unsigned long kReplaceExisting = 0x1;
-    constexpr unsigned long kWriteThrough = 0x8;
-    return MoveFileExA(from.c_str(), to.c_str(), kReplaceExisting | kWriteThrough) != 0;
-#else
-    return std::rename(from.c_str(), to.c_str()) == 0;
-#endif
+void InformCannotRead(Reporter& reporter, const std::string& path) {
+    reporter.Inform("Die Datei '" + path + "' konnte nicht zum Lesen ge\xF6" "ffnet werden.");
 }
 
 } // namespace
 
-bool SaveNativeFile(Document& document, const std::string& path) {
-    const std::string text = SaveNativeText(document);
+bool ReadWholeFile(const std::string& path, std::string& bytes, Reporter& reporter) {
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    // A folder or a device has no length to read (a device such as /dev/zero would never end),
+    // so only a plain file is read.
+    FileStatus status{};
+    if (file == nullptr || FileStatusOf(file, &status) != 0 || !S_ISREG(status.st_mode)) {
+        if (file != nullptr) std::fclose(file);
+        InformCannotRead(reporter, path);
+        return false;
+    }
+    const auto length = static_cast<std::uint64_t>(status.st_size);
+    bool room = length < std::string().max_size();
+    try {
+        if (room) bytes.resize(static_cast<std::size_t>(length));
+    } catch (const std::bad_alloc&) {
+        room = false;
+    }
+    if (!room) {
+        std::fclose(file);
+        InformOutOfMemory(reporter, static_cast<std::size_t>(length));
+        return false;
+    }
+    // A file that shrank meanwhile gives what it still holds.
+    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file));
+    std::fclose(file);
+    return true;
+}
 
-    const std::string temporary = path + ".rhomba-tmp";
-    if (std::FILE* file = std::fopen(temporary.c_str(), "wb")) {
-        const bool written = WriteAll(file, text);
-        if (written) Sync(file);
-        const bool closed = std::fclose(file) == 0;
-        if (!written || !closed) {
-            // The old drawing stays untouched when the disk fills up.
-            std::remove(temporary.c_str());
+bool LoadNativeFile(Document& document, const std::string& path, Reporter& reporter) {
+    std::string bytes;
+    try {
+        if (!ReadWholeFile(path, bytes, reporter)) return false;
+        if (bytes.size() < 21) {
+            reporter.Inform("'" + path + "' ist keine Rhomba-Datei.");
             return false;
         }
-        if (ReplaceFile(temporary, path)) {
-            document.SetFileName(path);
+        // The text ends at its first 0 byte, as it always has.
+        const std::string_view text(bytes.data(), std::min(bytes.find('\0'), bytes.size()));
+        if (!StartsWithProductWord(text)) {
+            document.Reset();
+            reporter.Inform("Es ist keine Rhomba-Datei.\r\n\r\nAnfang: " +
+                            std::string(text.substr(0, 100)) + " ...");
+            return false;
+        }
+        // Read beside the open drawing, which is replaced only once the new one is complete.
+        Document loaded;
+        loaded.Reset();
+        std::string name = path;
+        if (ParseNative(loaded, text, false)) {
+            document.TakeDrawing(loaded);
+            document.SetFileName(std::move(name));
             return true;
         }
-        std::remove(temporary.c_str());
+    } catch (const std::bad_alloc&) {
     }
+    InformOutOfMemory(reporter, bytes.size());
+    return false;
+}
 
-    // No temporary file beside the target (a folder without write access, say): write the
-    // target itself, and failing that, over an existing one from its start.
-    std::FILE* file = std::fopen(path.c_str(), "wb");
-    if (file == nullptr) file = std::fopen(path.c_str(), "r+b");
-    if (file == nullptr) return false;
-    const bool written = WriteAll(file, text);
-    const bool closed = std::fclose(file) == 0;
-    if (!written || !closed) return false;
+bool SaveNativeFile(Document& document, const std::string& path, Reporter& reporter) {
+    NativeWriter writer;
+    try {
+        document.SaveNative(writer, true);
+    } catch (const std::bad_alloc&) {
+        InformOutOfMemory(reporter, writer.Text().size());
+        return false;
+    }
+    if (!WriteFileSafely(path, writer.Text(), reporter)) return false;
     document.SetFileName(path);
     return true;
 }

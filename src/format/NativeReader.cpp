@@ -9,6 +9,7 @@
 #include "model/Reporter.h"
 #include "model/TextObject.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <cstring>
@@ -109,7 +110,8 @@ class Parser {
 public:
     Parser(Document& document, bool paste) : document_(document), paste_(paste) {}
 
-    void Run(std::string_view text);
+    // False when memory ran out; the document is then put back as it was.
+    bool Run(std::string_view text);
 
 private:
     Group& Container() {
@@ -119,6 +121,8 @@ private:
     void EndPath(char letter);
     void PlaceIds(Fields& f);
     void RegisterAll();
+    void Parse(std::string_view text);
+    void Undo();
     // Returns false at RhombaEnd.
     bool Line(const char* begin, const char* end);
 
@@ -146,6 +150,16 @@ private:
     // keeps it current, so a file full of placement lines costs no tree walks.
     std::unordered_map<std::uint32_t, GraphicObject*> ids_;
     bool idsBuilt_ = false;
+
+    // What a failed parse takes back: every object inserted and every container it went into,
+    // the layers made, and the current layer's name and flags, which a Layer line may change.
+    std::vector<GraphicObject*> inserted_;
+    std::vector<Group*> containers_;
+    std::size_t layersBefore_ = 0;
+    int currentBefore_ = 0;
+    Layer* current_ = nullptr;
+    std::string currentName_;
+    std::uint32_t currentFlags_ = 0;
 };
 
 void Parser::RegisterAll() {
@@ -181,7 +195,11 @@ GraphicObject* Parser::Insert(std::unique_ptr<GraphicObject> object) {
             }
         }
     }
+    if (containers_.empty() || containers_.back() != container) containers_.push_back(container);
+    // The slot is made first, so that an object is never in the drawing without its record.
+    inserted_.push_back(nullptr);
     GraphicObject* inserted = container->InsertAt(std::move(object), &document_, id, index);
+    inserted_.back() = inserted;
     if (idsBuilt_ && inserted != nullptr) ids_.emplace(inserted->GetId(), inserted);
     if (paste_ && open_.empty() && inserted != nullptr) pasted_.push_back(inserted);
     return inserted;
@@ -377,17 +395,39 @@ bool Parser::Line(const char* begin, const char* end) {
     }
 }
 
-void Parser::Run(std::string_view text) {
+bool Parser::Run(std::string_view text) {
+    layersBefore_ = document_.LayerCount();
+    currentBefore_ = document_.CurrentLayerIndex();
+    try {
+        // Fetching the current layer makes the first layer of an empty drawing; later items
+        // fetch it again where they are inserted, so once before the first line is enough.
+        current_ = &document_.CurrentLayer();
+        currentName_ = current_->GetName();
+        currentFlags_ = current_->GetFlags();
+        Parse(text);
+        // Selected once complete, so that a pasted group's flag reaches all of its children.
+        for (GraphicObject* object : pasted_) document_.AddToSelection(object);
+    } catch (const std::bad_alloc&) {
+        Undo();
+        return false;
+    }
+    return true;
+}
+
+void Parser::Parse(std::string_view text) {
     const char* p = text.data();
     const char* const end = p + text.size();
-    // Fetching the current layer makes the first layer of an empty drawing; later items fetch it
-    // again where they are inserted, so once before the first line is enough.
-    document_.CurrentLayer();
+    // The next LF at or after p (end when there is none): a text whose lines end in lone CRs is
+    // searched for it once, not once per line.
+    const char* newline = nullptr;
     while (p < end) {
         // Lines end at LF, at CR LF, or at a lone CR (texts saved by old editors).
-        const char* newline =
-            static_cast<const char*>(std::memchr(p, '\n', static_cast<std::size_t>(end - p)));
-        const char* lineEnd = newline != nullptr ? newline : end;
+        if (newline == nullptr || newline < p) {
+            const auto rest = static_cast<std::size_t>(end - p);
+            newline = static_cast<const char*>(std::memchr(p, '\n', rest));
+            if (newline == nullptr) newline = end;
+        }
+        const char* lineEnd = newline;
         if (const void* cr = std::memchr(p, '\r', static_cast<std::size_t>(lineEnd - p))) {
             lineEnd = static_cast<const char*>(cr);
         }
@@ -395,15 +435,40 @@ void Parser::Run(std::string_view text) {
         p = lineEnd + 1;
         if (p < end && lineEnd[0] == '\r' && *p == '\n') ++p;
     }
-    // Selected once complete, so that a pasted group's flag reaches all of its children.
-    for (GraphicObject* object : pasted_) document_.AddToSelection(object);
+}
+
+// Takes out what the parse put in, without allocating: memory has just run out.
+void Parser::Undo() {
+    if (paste_) document_.ClearSelection();
+    std::erase(inserted_, nullptr);
+    std::sort(inserted_.begin(), inserted_.end());
+    const auto made = [this](const GraphicObject* object) {
+        return std::binary_search(inserted_.begin(), inserted_.end(), object);
+    };
+    // Containers that the parse made go with their parent; only those that were there before
+    // are searched, each once.
+    std::sort(containers_.begin(), containers_.end());
+    containers_.erase(std::unique(containers_.begin(), containers_.end()), containers_.end());
+    std::erase_if(containers_, [&](const Group* container) {
+        for (std::size_t i = layersBefore_; i < document_.LayerCount(); ++i) {
+            if (&document_.LayerAt(i) == container) return true;
+        }
+        return made(container);
+    });
+    for (Group* container : containers_) container->EraseChildrenIf(made);
+    document_.TruncateChildren(layersBefore_);
+    document_.SetCurrentLayerIndex(currentBefore_);
+    if (layersBefore_ > 0) {
+        current_->SetName(std::move(currentName_));
+        current_->SetFlags(currentFlags_);
+    }
 }
 
 } // namespace
 
-void ParseNative(Document& document, std::string_view text, bool paste) {
+bool ParseNative(Document& document, std::string_view text, bool paste) {
     Parser parser(document, paste);
-    parser.Run(text);
+    return parser.Run(text);
 }
 
 bool StartsWithProductWord(std::string_view text) {
@@ -412,45 +477,6 @@ bool StartsWithProductWord(std::string_view text) {
     if (text.size() == kProductWord.size()) return true;
     const char next = text[kProductWord.size()];
     return next == ' ' || next == '\t' || next == '\r' || next == '\n';
-}
-
-bool LoadNativeFile(Document& document, const std::string& path, Reporter& reporter) {
-    std::FILE* file = std::fopen(path.c_str(), "rb");
-    if (file == nullptr) {
-        reporter.Inform("Die Datei '" + path + "' konnte nicht zum Lesen ge\xF6" "ffnet werden.");
-        return false;
-    }
-    long long length = -1;
-    if (std::fseek(file, 0, SEEK_END) == 0) length = std::ftell(file);
-    std::fseek(file, 0, SEEK_SET);
-    if (length < 21) {
-        std::fclose(file);
-        reporter.Inform("'" + path + "' ist keine Rhomba-Datei.");
-        return false;
-    }
-    document.Reset();
-
-    // Note: new without zero-filling; the whole buffer is read over at once.
-    std::unique_ptr<char[]> buffer(new (std::nothrow) char[static_cast<std::size_t>(length) + 1]);
-    if (!buffer) {
-        std::fclose(file);
-        reporter.Inform("Nicht gen\xFCgend Speicher (" + std::to_string(length) + " Bytes).");
-        return false;
-    }
-    const std::size_t got = std::fread(buffer.get(), 1, static_cast<std::size_t>(length), file);
-    std::fclose(file);
-    buffer[got] = '\0';
-    // The text ends at its first 0 byte, as it always has.
-    const std::string_view text(buffer.get(), std::strlen(buffer.get()));
-
-    if (!StartsWithProductWord(text)) {
-        reporter.Inform("Es ist keine Rhomba-Datei.\r\n\r\nAnfang: " + std::string(text.substr(0, 100)) +
-                        " ...");
-        return false;
-    }
-    ParseNative(document, text, false);
-    document.SetFileName(path);
-    return true;
 }
 
 } // namespace rhomba

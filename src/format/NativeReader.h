@@ -12,9 +12,11 @@ class Reporter;
 // and objects go where the lines say, starting in the current layer; parsing stops at
 // RhombaEnd or at the end of text. With paste set, the objects placed directly into a layer
 // become selected.
-// Note: the reader never fails: unknown lines are skipped, bad numbers read as 0, groups nested
-// deeper than kMaxGroupDepth are flattened into their deepest allowed ancestor.
-void ParseNative(Document& document, std::string_view text, bool paste);
+// Note: the text itself never makes the reader fail: unknown lines are skipped, bad numbers
+// read as 0, groups nested deeper than kMaxGroupDepth are flattened into their deepest allowed
+// ancestor. Only memory running out does; the document is then put back as it was (selection
+// aside) and the result is false.
+bool ParseNative(Document& document, std::string_view text, bool paste);
 
 inline constexpr int kMaxGroupDepth = 256;
 
@@ -22,15 +24,19 @@ inline constexpr int kMaxGroupDepth = 256;
 // mark in front.
 bool StartsWithProductWord(std::string_view text);
 
+// The whole content of the file at path into bytes. A path that cannot be opened or names no
+// plain file (a folder, a device) gets "Die Datei '%s' konnte nicht zum Lesen geöffnet werden.",
+// a file too big for the memory "Nicht genügend Speicher (%d Bytes)."; both return false.
+bool ReadWholeFile(const std::string& path, std::string& bytes, Reporter& reporter);
+
 // Opens a drawing for "Oeffnen": refuses files that cannot be read, are shorter than 21 bytes or
-// do not start with the product word, telling reporter why; otherwise empties document, parses
-// the file and gives the document its name. Returns false when the file was refused.
+// do not start with the product word (the last empties document), telling reporter why;
+// otherwise replaces the drawing by the file's and gives the document its name. Running out of
+// memory is reported and leaves the document as it was. Returns false when nothing was loaded.
 bool LoadNativeFile(Document& document, const std::string& path, Reporter& reporter);
 
-// Writes document to path as "Speichern" does: a temporary file beside the target renamed over
-// it, so that a failure midway never leaves the old drawing truncated. Without a temporary file
-// the target is created or truncated directly, and failing that an existing target is written
-// over from its start. On success the document takes the file name.
-bool SaveNativeFile(Document& document, const std::string& path);
+// Writes document to path as "Speichern" does (WriteFileSafely), telling reporter of a failure.
+// On success the document takes the file name.
+bool SaveNativeFile(Document& document, const std::string& path, Reporter& reporter);
 
 } // namespace rhomba

@@ -2,6 +2,7 @@
 
 #include "geometry/Isometric.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace rhomba {
@@ -15,7 +16,6 @@ ViewState::ViewState() {
 Document::Document() {
     // The document is object 1 of its own numbering.
     id_ = 1;
-    owner_ = this;
 }
 
 bool Document::GetBounds(Rect2& bounds, bool withPenWidth) {
@@ -32,15 +32,42 @@ GraphicObject* Document::HitTest(Point2 probe, double tolerance) {
 }
 
 std::uint32_t Document::IssueId(std::uint32_t requestedId) {
+    constexpr std::uint32_t kLargest = std::numeric_limits<std::uint32_t>::max();
     if (requestedId == 0) {
-        // Ids are never reused; a counter at its end keeps handing out its last value rather
-        // than wrapping round to ids that exist.
-        if (lastId_ < std::numeric_limits<std::uint32_t>::max()) ++lastId_;
-        return lastId_;
+        if (ids_.last < kLargest) return ++ids_.last;
+        return IssueFreeId();
     }
     // Keep the counter beyond every id handed out, so later objects never collide with it.
-    if (requestedId > lastId_) lastId_ = requestedId;
+    if (requestedId > ids_.last) ids_.last = requestedId;
+    if (ids_.exhausted && requestedId > ids_.gap) {
+        ids_.taken.insert(std::lower_bound(ids_.taken.begin(), ids_.taken.end(), requestedId),
+                          requestedId);
+    }
     return requestedId;
+}
+
+std::uint32_t Document::IssueFreeId() {
+    if (!ids_.exhausted) {
+        // Collected once: from here on the gaps are handed out in rising order.
+        ids_.exhausted = true;
+        std::vector<const GraphicObject*> work{this};
+        while (!work.empty()) {
+            const GraphicObject* object = work.back();
+            work.pop_back();
+            ids_.taken.push_back(object->GetId());
+            if (!IsContainer(*object)) continue;
+            const Group& group = static_cast<const Group&>(*object);
+            for (std::size_t i = 0; i < group.ChildCount(); ++i) work.push_back(group.ChildAt(i));
+        }
+        std::sort(ids_.taken.begin(), ids_.taken.end());
+    }
+    auto next = std::upper_bound(ids_.taken.begin(), ids_.taken.end(), ids_.gap);
+    while (ids_.gap < std::numeric_limits<std::uint32_t>::max()) {
+        ++ids_.gap;
+        while (next != ids_.taken.end() && *next < ids_.gap) ++next;
+        if (next == ids_.taken.end() || *next != ids_.gap) return ids_.gap;
+    }
+    return ids_.gap; // four billion objects: nothing left to hand out
 }
 
 Layer& Document::CurrentLayer() {
@@ -81,8 +108,16 @@ void Document::Reset() {
     defaults = StyleDefaults{};
     defaults.penWidth = 1.0;
     while (LayerCount() > 0) DeleteChild(ChildAt(LayerCount() - 1), true);
-    lastId_ = 1;
+    ids_ = Ids{};
     if (onTitleChange) onTitleChange(fileName_);
+}
+
+void Document::TakeDrawing(Document& other) {
+    Reset();
+    TakeChildren(other);
+    ids_ = std::move(other.ids_);
+    currentLayer_ = other.currentLayer_;
+    other.Reset();
 }
 
 void Document::SetFileName(std::string fileName) {

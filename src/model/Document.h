@@ -57,8 +57,10 @@ public:
     GraphicObject* HitTest(Point2 probe, double tolerance) override;
 
     // The id for an object being attached: requestedId when not 0, else the next of the counter.
+    // Note: a file may ask for the largest id; from then on new ids fill the gaps between the
+    // ids in the drawing, so that they stay unique.
     std::uint32_t IssueId(std::uint32_t requestedId);
-    std::uint32_t LastId() const { return lastId_; }
+    std::uint32_t LastId() const { return ids_.last; }
 
     // The current layer, created (unnamed, as layer 0) when the drawing has none.
     Layer& CurrentLayer();
@@ -74,6 +76,9 @@ public:
     GraphicObject* AddObject(std::unique_ptr<GraphicObject> object);
     // Empties the drawing for a new document or before loading.
     void Reset();
+    // Reset, then takes over the layers, ids and current layer of other, which is left empty:
+    // a drawing read beside the open one replaces it in one step.
+    void TakeDrawing(Document& other);
 
     const std::string& GetFileName() const { return fileName_; }
     void SetFileName(std::string fileName);
@@ -111,9 +116,18 @@ private:
     void ArrangeBackward(bool all);
     void ArrangeForward(bool all);
 
+    std::uint32_t IssueFreeId();
+
     std::string fileName_;
     int currentLayer_ = 0;
-    std::uint32_t lastId_ = 1;
+    struct Ids {
+        std::uint32_t last = 1;
+        // Once the counter is at its end: the ids above the last one handed out that are taken,
+        // in order, and that last one.
+        std::vector<std::uint32_t> taken;
+        std::uint32_t gap = 1;
+        bool exhausted = false;
+    } ids_;
     std::vector<GraphicObject*> selection_;
 };
 

@@ -22,8 +22,14 @@ void GraphicObject::SetHidden(bool hidden) {
 }
 bool GraphicObject::IsHidden() const { return (flags_ & kFlagHidden) != 0; }
 
+Document* GraphicObject::GetOwner() const {
+    const GraphicObject* top = this;
+    while (top->parent_ != nullptr) top = top->parent_;
+    if (top->GetKind() != ObjectKind::Document) return nullptr;
+    return static_cast<Document*>(const_cast<GraphicObject*>(top));
+}
+
 void GraphicObject::Attach(Document* document, Group* parent, std::uint32_t requestedId) {
-    owner_ = document;
     parent_ = parent;
     if (id_ == 0 && document != nullptr) id_ = document->IssueId(requestedId);
 }

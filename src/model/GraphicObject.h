@@ -102,13 +102,13 @@ public:
     void SetFlags(std::uint32_t flags) { flags_ = flags; }
     const std::string& GetName() const { return name_; }
     void SetName(std::string name) { name_ = std::move(name); }
-    Document* GetOwner() const { return owner_; }
+    // The document at the top of the parent chain; null for an object outside any drawing.
+    Document* GetOwner() const;
     // The container that holds this object; null for the document and detached objects.
     Group* GetParent() const { return parent_; }
     void SetParent(Group* parent) { parent_ = parent; }
 
 private:
-    Document* owner_ = nullptr;
     Group* parent_ = nullptr;
     std::uint32_t id_ = 0;
     std::uint32_t flags_ = 0;

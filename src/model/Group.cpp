@@ -139,6 +139,13 @@ GraphicObject* Group::InsertAt(std::unique_ptr<GraphicObject> object, Document* 
     return raw;
 }
 
+void Group::TakeChildren(Group& other) {
+    std::vector<std::unique_ptr<GraphicObject>> old = std::move(children_);
+    children_.swap(other.children_);
+    for (auto& child : children_) child->SetParent(this);
+    old.swap(other.children_); // other keeps an empty list; the old children go with old
+}
+
 void Group::MoveChild(std::size_t from, std::size_t to) {
     if (from >= children_.size() || to >= children_.size() || from == to) return;
     std::unique_ptr<GraphicObject> object = std::move(children_[from]);

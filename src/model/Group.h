@@ -49,6 +49,20 @@ public:
                             std::uint32_t requestedId, std::size_t index);
     // Moves the child at from to position to (positions counted after the removal).
     void MoveChild(std::size_t from, std::size_t to);
+    // Deletes every child for which doomed(child) is true, in one pass over the list.
+    template <typename Predicate>
+    void EraseChildrenIf(Predicate doomed) {
+        std::erase_if(children_, [&](const std::unique_ptr<GraphicObject>& child) {
+            return doomed(static_cast<const GraphicObject*>(child.get()));
+        });
+    }
+    // Deletes this group's children and takes over those of other, which is left empty; nothing
+    // is allocated, so it cannot fail halfway.
+    void TakeChildren(Group& other);
+    // Deletes the children from position count on.
+    void TruncateChildren(std::size_t count) {
+        if (count < children_.size()) children_.resize(count);
+    }
 
     std::size_t ChildCount() const { return children_.size(); }
     GraphicObject* ChildAt(std::size_t i) const { return children_[i].get(); }

@@ -21,4 +21,9 @@ inline void InformCannotWrite(Reporter& reporter, std::string_view path) {
     reporter.Inform(std::string(path) + " konnte nicht zum Schreiben ge\xF6" "ffnet werden.");
 }
 
+// The message of every allocation that failed, with the size it was for.
+inline void InformOutOfMemory(Reporter& reporter, std::size_t bytes) {
+    reporter.Inform("Nicht gen\xFCgend Speicher (" + std::to_string(bytes) + " Bytes).");
+}
+
 } // namespace rhomba

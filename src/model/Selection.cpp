@@ -12,10 +12,12 @@ void Document::ClearSelection() {
 
 void Document::AddToSelection(GraphicObject* object) {
     if (object == nullptr) return;
+    // The flag answers for nearly every object; only one flagged through a selected group may
+    // be missing from the list, so only a flagged one costs a search.
+    const bool listed = object->IsSelected() &&
+                        std::find(selection_.begin(), selection_.end(), object) != selection_.end();
     object->SetSelected(true);
-    if (std::find(selection_.begin(), selection_.end(), object) == selection_.end()) {
-        selection_.push_back(object);
-    }
+    if (!listed) selection_.push_back(object);
 }
 
 void Document::RemoveFromSelection(GraphicObject* object) {
@@ -76,12 +78,15 @@ void Document::DeleteSelection() {
         }
         return false;
     };
-    std::vector<GraphicObject*> roots;
+    // Each parent's list is swept once, however many of its children go.
+    std::unordered_set<Group*> parents;
     for (GraphicObject* object : doomed) {
-        if (!insideChosen(object)) roots.push_back(object);
+        if (!insideChosen(object) && object->GetParent() != nullptr) {
+            parents.insert(object->GetParent());
+        }
     }
-    for (GraphicObject* object : roots) {
-        if (Group* parent = object->GetParent()) parent->Detach(object);
+    for (Group* parent : parents) {
+        parent->EraseChildrenIf([&](const GraphicObject* child) { return chosen.count(child) != 0; });
     }
 }
 

@@ -106,7 +106,8 @@ int AppendGlyphFigures(std::span<const std::uint8_t> records, double penX, PathO
         at += cb;
     }
 
-    out.ReserveNodes(out.NodeCount() + figures.points.size());
+    // Appended glyph by glyph, the nodes grow geometrically: reserving the exact size for each
+    // glyph would copy the whole outline every time.
     for (std::size_t i = 0; i < figures.points.size(); ++i) {
         const Point2 p = figures.points[i];
         out.AddNode({p.x + penX, p.y}, figures.types[i]);

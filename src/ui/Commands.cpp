@@ -29,9 +29,7 @@ void SaveAs(Editor& editor);
 void Save(Editor& editor) {
     Document& document = editor.document;
     if (document.GetFileName().empty()) return SaveAs(editor);
-    if (!SaveNativeFile(document, document.GetFileName())) {
-        InformCannotWrite(editor.host, document.GetFileName());
-    }
+    SaveNativeFile(document, document.GetFileName(), editor.host);
 }
 
 void SaveAs(Editor& editor) {
@@ -40,7 +38,7 @@ void SaveAs(Editor& editor) {
     const auto path = editor.host.ChooseFileToSave({document.GetFileName(), filter});
     if (!path) return;
     const std::string target = CompleteExportFileName(*path, "rhomba");
-    if (!SaveNativeFile(document, target)) InformCannotWrite(editor.host, target);
+    SaveNativeFile(document, target, editor.host);
 }
 
 void Open(Editor& editor) {

@@ -3,6 +3,7 @@
 
 #include "export/EmfExport.h"
 #include "export/ExportFileName.h"
+#include "format/FileWrite.h"
 #include "model/Document.h"
 #include "model/Reporter.h"
 #include "win32/GdiDevice.h"
@@ -10,25 +11,48 @@
 #include <commdlg.h>
 
 #include <cstring>
+#include <new>
+#include <string>
 
 namespace rhomba {
 
 bool WriteEmfFile(Document& document, const std::string& path, HWND window, Reporter& reporter) {
+    // Drawn in memory, then written like every other file: to a temporary file renamed over the
+    // target, so that a failure never leaves half a picture in place of the old one.
     HDC reference = ::GetDC(window);
     // No frame rectangle: GDI works the frame out from what is drawn.
-    HDC metafile = ::CreateEnhMetaFileA(reference, path.c_str(), nullptr, "Rhomba\0\0");
-    bool written = false;
+    HDC metafile = ::CreateEnhMetaFileA(reference, nullptr, nullptr, "Rhomba\0\0");
+    ::ReleaseDC(window, reference);
     if (metafile == nullptr) {
         InformCannotWrite(reporter, path);
-    } else {
+        return false;
+    }
+    std::string bytes;
+    bool drawn = true;
+    try {
         GdiDevice device(metafile);
         RenderEmf(device, document);
-        HENHMETAFILE handle = ::CloseEnhMetaFile(metafile);
-        written = handle != nullptr;
-        if (handle != nullptr) ::DeleteEnhMetaFile(handle);
+    } catch (const std::bad_alloc&) {
+        drawn = false;
     }
-    ::ReleaseDC(window, reference);
-    return written;
+    HENHMETAFILE handle = ::CloseEnhMetaFile(metafile);
+    if (handle == nullptr) {
+        InformCannotWrite(reporter, path);
+        return false;
+    }
+    const UINT size = ::GetEnhMetaFileBits(handle, 0, nullptr);
+    try {
+        if (drawn) bytes.resize(size);
+    } catch (const std::bad_alloc&) {
+        drawn = false;
+    }
+    if (drawn) ::GetEnhMetaFileBits(handle, size, reinterpret_cast<BYTE*>(bytes.data()));
+    ::DeleteEnhMetaFile(handle);
+    if (!drawn) {
+        InformOutOfMemory(reporter, size);
+        return false;
+    }
+    return WriteFileSafely(path, bytes, reporter);
 }
 
 void ExportEmfCommand(HWND owner, Document& document, Reporter& reporter) {

@@ -1,15 +1,18 @@
+#include "format/Clipboard.h"
 #include "format/NativeReader.h"
 #include "format/NativeWriter.h"
 #include "model/Document.h"
 #include "model/Hotspot.h"
 #include "model/PathObject.h"
 #include "model/TextObject.h"
+#include "support/Allocations.h"
 #include "support/Reporters.h"
 #include "support/TempFile.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 
 namespace rhomba {
 namespace {
@@ -101,6 +104,13 @@ TEST(NativeReader, PlacementLinePutsTheNextObjectIntoItsParentWithItsId) {
     EXPECT_EQ(layer.ChildAt(1)->GetName(), "doppelt");
     EXPECT_NE(layer.ChildAt(1)->GetId(), 500u);
     EXPECT_EQ(layer.ChildAt(2)->GetName(), "waise");
+    // After the largest id the ids still differ.
+    Parsed(doc, kHead + "%IDs " + ids + " 0 4294967295\nHotspot n a 0 0 0 0\nGroup g\nGroupEnd\n"
+                        "Hotspot n b 0 0 0 0\n%IDs " + ids + " 0 8\nHotspot n c 0 0 0 0\n");
+    std::set<std::uint32_t> unique;
+    for (std::size_t i = 0; i < layer.ChildCount(); ++i) unique.insert(layer.ChildAt(i)->GetId());
+    for (std::size_t i = 0; i < group.ChildCount(); ++i) unique.insert(group.ChildAt(i)->GetId());
+    EXPECT_EQ(unique.size(), layer.ChildCount() + group.ChildCount());
 }
 
 TEST(NativeReader, PasteSelectsThePastedObjectsOnly) {
@@ -150,27 +160,42 @@ TEST(NativeFile, LoadsWithByteOrderMarkAndTakesTheFileName) {
     EXPECT_EQ(doc.CurrentLayer().ChildCount(), 1u);
 }
 
-TEST(NativeFile, SavingReplacesTheTargetWholeAndLeavesNoTemporaryFile) {
+TEST(NativeFile, SavingWritesTheWholeTextAndTakesTheNameOnlyOnSuccess) {
     TempFile target("ziel.rhomba", std::string(5000, 'o'));
     Document doc;
     doc.AddObject(std::make_unique<Hotspot>());
-    ASSERT_TRUE(SaveNativeFile(doc, target.path));
+    RecordingReporter reporter;
+    EXPECT_FALSE(SaveNativeFile(doc, test::MissingFolderPath("x.rhomba"), reporter));
+    EXPECT_EQ(doc.GetFileName(), "");
+    ASSERT_TRUE(SaveNativeFile(doc, target.path, reporter));
     EXPECT_EQ(target.Read(), SaveNativeText(doc));
     EXPECT_EQ(doc.GetFileName(), target.path);
-    EXPECT_FALSE(std::filesystem::exists(target.path + ".rhomba-tmp"));
-
     Document reread;
-    RecordingReporter reporter;
     ASSERT_TRUE(LoadNativeFile(reread, target.path, reporter));
     EXPECT_EQ(SaveNativeText(reread), SaveNativeText(doc));
 }
 
-TEST(NativeFile, SavingIntoAMissingFolderFailsAndKeepsTheName) {
-    Document doc;
-    doc.SetFileName("alt.rhomba");
-    const std::string path = test::MissingFolderPath("x.rhomba");
-    EXPECT_FALSE(SaveNativeFile(doc, path));
-    EXPECT_EQ(doc.GetFileName(), "alt.rhomba");
+// A failure at every allocation in turn: each is reported, and the drawing stays as it was.
+TEST(NativeFile, RunningOutOfMemoryWhileLoadingOrPastingLeavesTheDrawingAsItWas) {
+    const std::string text = kHead + "Layer EVP neu\nM 0 0\nL 1 1\nB\nGroup g\nText F 1 2 T\nGroupEnd\n"
+                                     "%IDs 3 0 0\nHotspot n h 0 0 0 0\nLayer EVP zwei\nM 0 0\nL 1 1\nS\n";
+    TempFile file("voll.rhomba", text);
+    for (const bool paste : {false, true}) {
+        for (long nth = 0;; ++nth) {
+            Document doc;
+            Parsed(doc, kHead + "Layer EVP alt\nGroup alt\nGroupEnd\nLayer evp leer\n");
+            const std::string before = SaveNativeText(doc);
+            RecordingReporter reporter;
+            const ClipboardText clipboard{text};
+            test::FailingAllocation failing(nth);
+            paste ? PasteText(doc, clipboard, reporter) : LoadNativeFile(doc, file.path, reporter);
+            if (!failing.Failed()) break;
+            EXPECT_EQ(SaveNativeText(doc), before) << nth;
+            EXPECT_EQ(reporter.messages, std::vector<std::string>{"Nicht gen\xFCgend Speicher (" +
+                                                                  std::to_string(text.size()) +
+                                                                  " Bytes)."});
+        }
+    }
 }
 
 } // namespace

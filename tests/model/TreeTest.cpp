@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 namespace rhomba {
 namespace {
 
@@ -202,6 +204,15 @@ TEST(Selection, DeleteSelectionCopesWithAnObjectInsideASelectedGroup) {
     EXPECT_TRUE(doc.Selection().empty());
     EXPECT_EQ(Counted::alive, 1);
     EXPECT_EQ(doc.CurrentLayer().ChildCount(), 1u);
+
+    // Selecting all one by one and deleting grow linearly (200,000 objects took 12.7 s).
+    Layer& layer = doc.CurrentLayer();
+    for (int i = 0; i < 50000; ++i) layer.InsertAt(std::make_unique<Hotspot>(), &doc, 0, i);
+    const auto start = std::chrono::steady_clock::now();
+    for (std::size_t i = 0; i < layer.ChildCount(); ++i) doc.AddToSelection(layer.ChildAt(i));
+    doc.DeleteSelection();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(500));
+    EXPECT_EQ(layer.ChildCount(), 0u);
 }
 
 TEST(Bounds, GroupsMergeChildrenTheDocumentStartsEmptyTheSelectionCountsAlone) {

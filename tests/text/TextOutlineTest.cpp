@@ -2,6 +2,7 @@
 
 #include "model/TextObject.h"
 #include "text/GlyphSource.h"
+#include "support/Allocations.h"
 #include "support/BoxGlyphs.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +14,15 @@ namespace rhomba {
 namespace {
 
 using TextOutlineTest = test::BoxGlyphTest;
+
+TEST_F(TextOutlineTest, LongTextsCostMemoryInProportion) {
+    // Reserving glyph by glyph copied the outline for every glyph: a million characters never
+    // finished. Grown geometrically, the bytes asked for stay a small multiple of the result.
+    PathObject outline;
+    const std::size_t before = test::AllocatedBytes();
+    BuildGlyphOutlines(glyphs, TextFace("Arial", false, false), std::u16string(4000, u'A'), outline);
+    EXPECT_LT(test::AllocatedBytes() - before, 50 * outline.NodeCount() * sizeof(Point2));
+}
 
 TEST_F(TextOutlineTest, SizeScalesTheThousandUnitOutlineAndBoundsFollow) {
     TextObject text;

@@ -65,7 +65,8 @@ TEST(EmfExport, ConvertedByTheCliWithPathsPensAndText) {
 
     const std::string drawing = TempPath("rhomba-emf-test.rhomba");
     const std::string file = TempPath("rhomba-emf-test.emf");
-    ASSERT_TRUE(SaveNativeFile(document, drawing));
+    test::RecordingReporter reporter;
+    ASSERT_TRUE(SaveNativeFile(document, drawing, reporter));
     std::ostringstream out, err;
     ASSERT_EQ(cli::Run({"convert", drawing, file}, out, err), 0) << err.str();
     EXPECT_EQ(err.str(), "");

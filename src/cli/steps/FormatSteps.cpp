@@ -1,14 +1,14 @@
 // The apply steps of the document, selection, clipboard and property commands.
 #include "cli/steps/StepWords.h"
 #include "format/Clipboard.h"
+#include "format/FileWrite.h"
+#include "format/NativeReader.h"
 #include "geometry/NumberText.h"
 #include "model/Document.h"
 #include "model/Reporter.h"
 #include "ui/PropertyCommands.h"
 
 #include <deque>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 namespace rhomba::cli {
@@ -28,9 +28,9 @@ void Select(StepContext& context, GraphicObject* object, std::string_view what) 
     context.document.AddToSelection(object);
 }
 
-bool RunSelect(StepContext& context, std::string_view rest) {
+bool RunSelect(StepContext& context, StepWords words) {
     Document& document = context.document;
-    if (rest == "all") {
+    if (words.size() == 1 && words[0] == "all") {
         document.ClearSelection();
         for (std::size_t i = 0; i < document.LayerCount(); ++i) {
             Layer& layer = document.LayerAt(i);
@@ -41,68 +41,72 @@ bool RunSelect(StepContext& context, std::string_view rest) {
         }
         return true;
     }
-    if (rest.substr(0, 3) == "id ") {
+    if (words.size() == 2 && words[0] == "id") {
         long long id = 0;
-        if (!ReadWhole(Trim(rest.substr(3)), id) || id < 0 || id > 0xFFFFFFFFll) {
+        if (!ReadWhole(Trim(words[1]), id) || id < 0 || id > 0xFFFFFFFFll) {
             return Tell(context, "select id needs a number");
         }
         Select(context, document.FindById(static_cast<std::uint32_t>(id), true),
                "#" + std::to_string(id));
         return true;
     }
-    if (rest.substr(0, 5) == "name ") {
-        const std::string name(rest.substr(5));
-        Select(context, document.FindByName(name, true), "named \"" + name + "\"");
+    if (words.size() == 2 && words[0] == "name") {
+        Select(context, document.FindByName(words[1], true), "named \"" + words[1] + "\"");
         return true;
     }
     return Tell(context, "select needs all, id N or name NAME");
 }
 
-bool RunDeselect(StepContext& context, std::string_view) {
+std::size_t SelectTakes(StepWords next) { return !next.empty() && next[0] == "all" ? 1 : 2; }
+
+bool RunDeselect(StepContext& context, StepWords) {
     context.document.ClearSelection();
     return true;
 }
 
 // The menu offers grouping only for two or more objects.
-bool RunGroup(StepContext& context, std::string_view) {
+bool RunGroup(StepContext& context, StepWords) {
     if (context.document.Selection().size() >= 2) context.document.GroupSelection();
     return true;
 }
 
-bool RunUngroup(StepContext& context, std::string_view) {
+bool RunUngroup(StepContext& context, StepWords) {
     context.document.UngroupSelection();
     return true;
 }
 
-bool RunDelete(StepContext& context, std::string_view) {
+bool RunDelete(StepContext& context, StepWords) {
     context.document.DeleteSelection();
     return true;
 }
 
-bool RunArrange(StepContext& context, std::string_view rest) {
+bool RunArrange(StepContext& context, StepWords words) {
     long long step = 0;
-    if (!ReadWhole(Trim(rest), step) || (step != -1 && step != -111 && step != 1 && step != 111)) {
+    if (words.size() != 1 || !ReadWhole(Trim(words[0]), step) || (step != -1 && step != -111 && step != 1 && step != 111)) {
         return Tell(context, "arrange takes -1, -111, 1 or 111");
     }
     context.document.Arrange(static_cast<int>(step));
     return true;
 }
 
-bool RunProp(StepContext& context, std::string_view rest) {
-    if (Trim(rest).empty()) return Tell(context, "prop needs a command line");
-    ApplyCommand(context.document, rest, true, nullptr);
+bool RunProp(StepContext& context, StepWords words) {
+    std::string line;
+    for (const std::string& word : words) line += (line.empty() ? "" : " ") + word;
+    if (Trim(line).empty()) return Tell(context, "prop needs a command line");
+    ApplyCommand(context.document, line, true, nullptr);
     return true;
 }
 
-bool RunCopy(StepContext& context, std::string_view rest) {
-    if (rest.empty()) return Tell(context, "copy needs a file name");
+// "prop SetPenWidth 0.5", or the whole command line as one word.
+std::size_t PropTakes(StepWords next) {
+    return !next.empty() && next[0].find(' ') != std::string::npos ? 1 : 2;
+}
+
+bool RunCopy(StepContext& context, StepWords words) {
+    if (words.size() != 1 || words[0].empty()) return Tell(context, "copy needs a file name");
     const std::string text = CopySelectionText(context.document);
     if (text.empty()) return true; // like the clipboard, the file stays as it was
-    std::ofstream file{std::string(rest), std::ios::binary};
-    file << text;
-    if (!file.flush()) {
-        InformCannotWrite(context.reporter, rest);
-    }
+    if (!WriteFileSafely(words[0], text, context.reporter)) context.writeFailed = true;
     return true;
 }
 
@@ -147,24 +151,36 @@ bool ParseAnswers(std::string_view word, std::deque<bool>& answers) {
     return true;
 }
 
-bool RunPaste(StepContext& context, std::string_view rest) {
-    std::string_view path = rest;
+bool RunPaste(StepContext& context, StepWords words) {
     std::deque<bool> answers;
-    const std::size_t blank = rest.rfind(' ');
-    if (blank != std::string_view::npos && ParseAnswers(rest.substr(blank + 1), answers)) {
-        path = rest.substr(0, blank);
+    if (words.empty() || words[0].empty() || words.size() > 2 ||
+        (words.size() == 2 && !ParseAnswers(words[1], answers))) {
+        return Tell(context, "paste needs a file name and optionally answers like y,n");
     }
-    if (path.empty()) return Tell(context, "paste needs a file name");
-    std::ifstream file{std::string(path), std::ios::binary};
-    if (!file) return Tell(context, "cannot read " + std::string(path));
     ClipboardText text;
-    text.bytes.assign(std::istreambuf_iterator<char>(file), {});
+    // A folder, a device or an unreadable file gets the loader's message; nothing is pasted.
+    if (!ReadWholeFile(words[0], text.bytes, context.reporter)) return true;
     ScriptedAnswers reporter(context.reporter, std::move(answers));
     PasteText(context.document, text, reporter);
     return true;
 }
 
-bool RunNew(StepContext& context, std::string_view) {
+std::size_t PasteTakes(StepWords next) {
+    std::deque<bool> answers;
+    return next.size() >= 2 && ParseAnswers(next[1], answers) ? 2 : 1;
+}
+
+// The one-argument form "paste FILE y,n": the answers are the last word, the file the rest.
+std::vector<std::string> SplitPaste(std::string_view rest) {
+    std::deque<bool> answers;
+    const std::size_t blank = rest.rfind(' ');
+    if (blank != std::string_view::npos && ParseAnswers(rest.substr(blank + 1), answers)) {
+        return {std::string(rest.substr(0, blank)), std::string(rest.substr(blank + 1))};
+    }
+    return KeepRest<1>(rest);
+}
+
+bool RunNew(StepContext& context, StepWords) {
     context.document.Reset();
     return true;
 }
@@ -173,16 +189,18 @@ bool RunNew(StepContext& context, std::string_view) {
 
 const std::vector<Step>& FormatSteps() {
     static const std::vector<Step> steps = {
-        {"select", "select all | select id N | select name NAME", RunSelect},
-        {"deselect", "deselect", RunDeselect},
-        {"group", "group", RunGroup},
-        {"ungroup", "ungroup", RunUngroup},
-        {"delete", "delete", RunDelete},
-        {"arrange", "arrange -1|-111|1|111", RunArrange},
-        {"prop", "prop COMMAND ARGUMENT (e.g. prop SetPenWidth 0.5)", RunProp},
-        {"copy", "copy FILE", RunCopy},
-        {"paste", "paste FILE [y,n,...]", RunPaste},
-        {"new", "new", RunNew},
+        {"select", "select all | select id N | select name NAME", RunSelect, SelectTakes,
+         KeepRest<2>},
+        {"deselect", "deselect", RunDeselect, Takes<0>},
+        {"group", "group", RunGroup, Takes<0>},
+        {"ungroup", "ungroup", RunUngroup, Takes<0>},
+        {"delete", "delete", RunDelete, Takes<0>},
+        {"arrange", "arrange -1|-111|1|111", RunArrange, Takes<1>},
+        {"prop", "prop COMMAND ARGUMENT (e.g. prop SetPenWidth 0.5, prop SetDashDot '4 2')",
+         RunProp, PropTakes, KeepRest<2>},
+        {"copy", "copy FILE", RunCopy, Takes<1>, KeepRest<1>},
+        {"paste", "paste FILE [y,n,...]", RunPaste, PasteTakes, SplitPaste},
+        {"new", "new", RunNew, Takes<0>},
     };
     return steps;
 }

@@ -37,8 +37,7 @@ bool Grayed(StepContext& context, std::string_view entry) {
     return true;
 }
 
-bool RunNodes(StepContext& context, std::string_view rest) {
-    const std::vector<std::string_view> words = Words(rest);
+bool RunNodes(StepContext& context, StepWords words) {
     unsigned long long id = 0;
     if (words.empty() || !ReadWhole(words[0], id) || id > 0xFFFFFFFFull) {
         return Tell(context, "nodes needs a path id and node indices");
@@ -65,8 +64,7 @@ bool RunNodes(StepContext& context, std::string_view rest) {
     return true;
 }
 
-bool RunNode(StepContext& context, std::string_view rest) {
-    const std::vector<std::string_view> words = Words(rest);
+bool RunNode(StepContext& context, StepWords words) {
     if (words.empty()) return Tell(context, "node needs an operation");
     const std::string_view op = words[0];
     const bool known = op == "add" || op == "join-line" || op == "join-intersection" || op == "delete" ||
@@ -123,14 +121,28 @@ bool RunNode(StepContext& context, std::string_view rest) {
     return true;
 }
 
-bool RunCombine(StepContext& context, std::string_view) {
+// The path id and every whole number after it.
+std::size_t NodesTakes(StepWords next) {
+    std::size_t count = next.empty() ? 0 : 1;
+    unsigned long long index = 0;
+    while (count < next.size() && ReadWhole(next[count], index)) ++count;
+    return count;
+}
+
+// "add X Y", "to-curve I", "to-line I", or the operation alone.
+std::size_t NodeTakes(StepWords next) {
+    if (next.empty()) return 0;
+    return next[0] == "add" ? 3 : next[0] == "to-curve" || next[0] == "to-line" ? 2 : 1;
+}
+
+bool RunCombine(StepContext& context, StepWords) {
     if (CombineSelection(context.document) == nullptr) {
         context.reporter.Inform("rhomba-cli: combine needs two or more selected paths");
     }
     return true;
 }
 
-bool RunSplit(StepContext& context, std::string_view) {
+bool RunSplit(StepContext& context, StepWords) {
     if (SplitCombination(context.document) == 0) {
         context.reporter.Inform("rhomba-cli: split needs one selected path with several figures");
     }
@@ -141,13 +153,14 @@ bool RunSplit(StepContext& context, std::string_view) {
 
 const std::vector<Step>& NodeSteps() {
     static const std::vector<Step> steps{
-        {"nodes", "nodes ID I J ... (select path ID and exactly its nodes I, J, ...)", RunNodes},
+        {"nodes", "nodes ID I J ... (select path ID and exactly its nodes I, J, ...)", RunNodes,
+         NodesTakes},
         {"node",
          "node add X Y | node join-line | node join-intersection | node delete | node split | "
          "node to-curve I | node to-line I | node reduce",
-         RunNode},
-        {"combine", "combine", RunCombine},
-        {"split", "split", RunSplit},
+         RunNode, NodeTakes},
+        {"combine", "combine", RunCombine, Takes<0>},
+        {"split", "split", RunSplit, Takes<0>},
     };
     return steps;
 }

@@ -12,7 +12,7 @@ namespace rhomba::cli {
 namespace {
 
 // Reads the 0|1 words from first on into flags; false when any is something else.
-bool ReadFlags(const std::vector<std::string_view>& words, std::size_t first,
+bool ReadFlags(StepWords words, std::size_t first,
                std::initializer_list<bool*> flags) {
     std::size_t i = first;
     for (bool* flag : flags) {
@@ -32,8 +32,7 @@ void OkUnlessRefused(StepContext& context, Model& model, std::string_view step) 
     }
 }
 
-bool RunSine(StepContext& context, std::string_view rest) {
-    const auto words = Words(rest);
+bool RunSine(StepContext& context, StepWords words) {
     bool axes = false, ticks = false;
     if (words.size() != 5 || !ReadFlags(words, 3, {&axes, &ticks})) {
         return Tell(context, "sine needs AMPLITUDE START END AXES(0|1) TICKS(0|1)");
@@ -48,8 +47,7 @@ bool RunSine(StepContext& context, std::string_view rest) {
     return true;
 }
 
-bool RunCircle(StepContext& context, std::string_view rest) {
-    const auto words = Words(rest);
+bool RunCircle(StepContext& context, StepWords words) {
     bool spokes = false, centre = false;
     if (words.size() != 5 || !ReadFlags(words, 3, {&spokes, &centre})) {
         return Tell(context, "circle needs RADIUS START END SPOKES(0|1) CENTRE(0|1)");
@@ -64,8 +62,7 @@ bool RunCircle(StepContext& context, std::string_view rest) {
     return true;
 }
 
-bool RunPolygon(StepContext& context, std::string_view rest) {
-    const auto words = Words(rest);
+bool RunPolygon(StepContext& context, StepWords words) {
     bool pie = false, spokes = false, outline = false;
     const int start =
         words.size() == 6 ? IndexOf(words[2], {"top", "right", "bottom", "left"}) : -1;
@@ -85,8 +82,7 @@ bool RunPolygon(StepContext& context, std::string_view rest) {
     return true;
 }
 
-bool RunSpiral(StepContext& context, std::string_view rest) {
-    const auto words = Words(rest);
+bool RunSpiral(StepContext& context, StepWords words) {
     const int kind = words.size() == 3 ? IndexOf(words[2], {"archimedisch", "logarithmisch"}) : -1;
     if (kind < 0) return Tell(context, "spiral needs MAXRADIUS GROWTH archimedisch|logarithmisch");
     FieldDialog<SpiralDialogModel> d;
@@ -101,13 +97,13 @@ bool RunSpiral(StepContext& context, std::string_view rest) {
 
 const std::vector<Step>& ShapeSteps() {
     static const std::vector<Step> steps = {
-        {"sine", "sine AMPLITUDE START END AXES(0|1) TICKS(0|1)", RunSine},
-        {"circle", "circle RADIUS START END SPOKES(0|1) CENTRE(0|1)", RunCircle},
+        {"sine", "sine AMPLITUDE START END AXES(0|1) TICKS(0|1)", RunSine, Takes<5>},
+        {"circle", "circle RADIUS START END SPOKES(0|1) CENTRE(0|1)", RunCircle, Takes<5>},
         {"polygon", "polygon CORNERS RADIUS top|right|bottom|left PIE(0|1) SPOKES(0|1) OUTLINE(0|1)",
-         RunPolygon},
+         RunPolygon, Takes<6>},
         {"spiral", "spiral MAXRADIUS GROWTH archimedisch|logarithmisch (GROWTH: mm per turn, or "
                    "the factor per turn)",
-         RunSpiral},
+         RunSpiral, Takes<3>},
     };
     return steps;
 }

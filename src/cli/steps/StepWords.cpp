@@ -7,7 +7,22 @@
 
 namespace rhomba::cli {
 
-std::vector<std::string_view> Words(std::string_view text) { return SplitWords(text, " \t"); }
+std::vector<std::string> SplitAtBlanks(std::string_view rest) {
+    std::vector<std::string> words;
+    for (std::string_view word : SplitWords(rest, " \t")) words.emplace_back(word);
+    return words;
+}
+
+std::vector<std::string> SplitKeepingRest(std::string_view rest, std::size_t count) {
+    std::vector<std::string> words;
+    while (!rest.empty() && words.size() + 1 < count) {
+        const std::size_t blank = rest.find_first_of(" \t");
+        words.emplace_back(rest.substr(0, blank));
+        rest = blank == std::string_view::npos ? std::string_view{} : rest.substr(blank + 1);
+    }
+    if (!rest.empty()) words.emplace_back(rest);
+    return words;
+}
 
 bool Tell(StepContext& context, std::string_view message) {
     context.reporter.Inform("rhomba-cli: " + std::string(message));

@@ -9,8 +9,13 @@
 
 namespace rhomba::cli {
 
-// The words of a step's rest, split at blanks and tabs.
-std::vector<std::string_view> Words(std::string_view text);
+// The one-argument form of a step whose last word is a text that may hold blanks: the first
+// count - 1 words are cut at blanks and tabs, the last keeps the rest as it is.
+std::vector<std::string> SplitKeepingRest(std::string_view rest, std::size_t count);
+template <std::size_t N>
+std::vector<std::string> KeepRest(std::string_view rest) {
+    return SplitKeepingRest(rest, N);
+}
 
 // Reports "rhomba-cli: <message>" and returns false, the result of a step whose words are not
 // usable.

@@ -9,8 +9,8 @@ namespace rhomba::cli {
 
 namespace {
 
-bool RunTextToPath(StepContext& context, std::string_view rest) {
-    if (!rest.empty()) {
+bool RunTextToPath(StepContext& context, StepWords words) {
+    if (!words.empty()) {
         context.reporter.Inform("rhomba-cli: text-to-path takes no words");
         return false;
     }
@@ -22,7 +22,7 @@ bool RunTextToPath(StepContext& context, std::string_view rest) {
 
 const std::vector<Step>& TextSteps() {
     static const std::vector<Step> steps = {
-        {"text-to-path", "text-to-path", RunTextToPath},
+        {"text-to-path", "text-to-path", RunTextToPath, Takes<0>},
     };
     return steps;
 }

@@ -11,7 +11,7 @@ namespace rhomba::cli {
 
 namespace {
 
-bool RunIso(StepContext& context, std::string_view rest) {
+bool RunIso(StepContext& context, StepWords words) {
     static const struct {
         std::string_view word;
         int mode;
@@ -22,7 +22,7 @@ bool RunIso(StepContext& context, std::string_view rest) {
         {"zurueck-oben1", kBackFromTop1}, {"zurueck-oben2", kBackFromTop2},
     };
     for (const auto& m : kModes) {
-        if (rest == m.word) {
+        if (words.size() == 1 && words[0] == m.word) {
             ProjectSelection(context.document, m.mode);
             return true;
         }
@@ -30,8 +30,7 @@ bool RunIso(StepContext& context, std::string_view rest) {
     return Tell(context, "iso needs links, rechts, oben1, oben2 or zurueck-... of them");
 }
 
-bool RunRotate(StepContext& context, std::string_view rest) {
-    const auto words = Words(rest);
+bool RunRotate(StepContext& context, StepWords words) {
     const int direction = words.size() == 2 ? IndexOf(words[1], {"cw", "ccw"}) : -1;
     if (direction < 0) return Tell(context, "rotate needs ANGLE cw|ccw");
     if (!RequireSelection(context.document, context.reporter)) return true;
@@ -42,8 +41,7 @@ bool RunRotate(StepContext& context, std::string_view rest) {
     return true;
 }
 
-bool RunStretch(StepContext& context, std::string_view rest) {
-    const auto words = Words(rest);
+bool RunStretch(StepContext& context, StepWords words) {
     if (words.size() != 2) return Tell(context, "stretch needs X Y in percent");
     if (!RequireSelection(context.document, context.reporter)) return true;
     FieldDialog<StretchDialogModel> d;
@@ -56,8 +54,7 @@ bool RunStretch(StepContext& context, std::string_view rest) {
     return true;
 }
 
-bool RunShear(StepContext& context, std::string_view rest) {
-    const auto words = Words(rest);
+bool RunShear(StepContext& context, StepWords words) {
     if (words.size() != 2) return Tell(context, "shear needs XDEG YDEG");
     if (!RequireSelection(context.document, context.reporter)) return true;
     FieldDialog<ShearDialogModel> d;
@@ -67,8 +64,7 @@ bool RunShear(StepContext& context, std::string_view rest) {
     return true;
 }
 
-bool RunMove(StepContext& context, std::string_view rest) {
-    const auto words = Words(rest);
+bool RunMove(StepContext& context, StepWords words) {
     if (words.size() != 2) return Tell(context, "move needs XMM YMM");
     if (!RequireSelection(context.document, context.reporter)) return true;
     FieldDialog<MoveDialogModel> d;
@@ -78,8 +74,7 @@ bool RunMove(StepContext& context, std::string_view rest) {
     return true;
 }
 
-bool RunCylinder(StepContext& context, std::string_view rest) {
-    const auto words = Words(rest);
+bool RunCylinder(StepContext& context, StepWords words) {
     bool foreshorten = false;
     if (words.size() != 2 || !ReadFlag(words[1], foreshorten)) {
         return Tell(context, "cylinder needs ANGLE 0|1");
@@ -92,8 +87,7 @@ bool RunCylinder(StepContext& context, std::string_view rest) {
     return true;
 }
 
-bool RunPlane(StepContext& context, std::string_view rest) {
-    const auto words = Words(rest);
+bool RunPlane(StepContext& context, StepWords words) {
     bool foreshorten = false;
     int plane = -1, first = -1, second = -1;
     if (words.size() == 6) {
@@ -122,14 +116,14 @@ bool RunPlane(StepContext& context, std::string_view rest) {
 const std::vector<Step>& TransformSteps() {
     static const std::vector<Step> steps = {
         {"iso", "iso links|rechts|oben1|oben2|zurueck-links|zurueck-rechts|zurueck-oben1|zurueck-oben2",
-         RunIso},
-        {"rotate", "rotate ANGLE cw|ccw", RunRotate},
-        {"stretch", "stretch XPERCENT YPERCENT", RunStretch},
-        {"shear", "shear XDEG YDEG", RunShear},
-        {"move", "move XMM YMM", RunMove},
-        {"cylinder", "cylinder ANGLE FORESHORTEN(0|1)", RunCylinder},
+         RunIso, Takes<1>},
+        {"rotate", "rotate ANGLE cw|ccw", RunRotate, Takes<2>},
+        {"stretch", "stretch XPERCENT YPERCENT", RunStretch, Takes<2>},
+        {"shear", "shear XDEG YDEG", RunShear, Takes<2>},
+        {"move", "move XMM YMM", RunMove, Takes<2>},
+        {"cylinder", "cylinder ANGLE FORESHORTEN(0|1)", RunCylinder, Takes<2>},
         {"plane", "plane XY|ZY|ZX|XZ AXIS1 ANGLE1 AXIS2 ANGLE2 FORESHORTEN(0|1), AXIS X|Y|Z",
-         RunPlane},
+         RunPlane, Takes<6>},
     };
     return steps;
 }
