@@ -2,6 +2,7 @@
 
 #include "format/Rounding.h"
 #include "geometry/NumberText.h"
+#include "model/Colour.h"
 #include "model/Document.h"
 #include "model/Hotspot.h"
 #include "model/PathObject.h"
@@ -35,9 +36,9 @@ void SvgWriter::Attribute(std::string_view name, double value, std::string_view 
 }
 
 void SvgWriter::Colour(ColorRef color) {
-    const unsigned rgb = ((color & 0xFF) << 16) | (color & 0xFF00) | ((color >> 16) & 0xFF);
     char text[16];
-    const int n = std::snprintf(text, sizeof text, "#%06x", rgb);
+    const int n =
+        std::snprintf(text, sizeof text, "#%06x", static_cast<unsigned>(SwapRedBlue(color)));
     out_.append(text, static_cast<std::size_t>(n));
 }
 
@@ -206,7 +207,7 @@ void Group::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
 std::string BuildSvgDocument(Document& document) {
     Rect2 box;
     // An empty drawing has no box; it gets a zero-sized picture rather than the negative size
-    // that the empty-box sentinel would give, which renderers refuse.
+    // that the empty-drawing mark would give, which renderers refuse.
     if (!document.GetBounds(box, false) || box.left > box.right || box.bottom > box.top) {
         box = {0, 0, 0, 0};
     }

@@ -2,6 +2,7 @@
 
 #include "format/Rounding.h"
 #include "geometry/NumberText.h"
+#include "model/Colour.h"
 #include "model/Document.h"
 #include "model/Hotspot.h"
 #include "model/PathObject.h"
@@ -15,9 +16,9 @@
 namespace rhomba {
 
 void AppendRrggbb(std::string& out, ColorRef color, bool padded) {
-    const unsigned rgb = ((color & 0xFF) << 16) | (color & 0xFF00) | ((color >> 16) & 0xFF);
     char text[16];
-    const int n = std::snprintf(text, sizeof text, padded ? "%06X" : "%X", rgb);
+    const int n = std::snprintf(text, sizeof text, padded ? "%06X" : "%X",
+                                static_cast<unsigned>(SwapRedBlue(color)));
     out.append(text, static_cast<std::size_t>(n));
 }
 

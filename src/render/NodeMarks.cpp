@@ -23,8 +23,6 @@ bool IsClosedFigure(const DevicePath& path, std::size_t move) {
     return last != move && (path.types[last] & node::kCloseFigure) != 0;
 }
 
-bool Selected(std::uint8_t t) { return (t & node::kSelected) != 0; }
-
 // Counts the selected nodes; a selected start of a closed figure passes its mark to the
 // figure's last point, where it is counted once.
 int CountSelectedNodes(DevicePath& path) {
@@ -33,7 +31,7 @@ int CountSelectedNodes(DevicePath& path) {
     NodeSpan step;
     while (nodes.Next(step)) {
         const std::uint8_t t = path.types[step.EndIndex()];
-        if (!Selected(t) || step.kind == SegmentKind::Close) continue;
+        if (!node::IsSelected(t) || step.kind == SegmentKind::Close) continue;
         if (step.kind == SegmentKind::Move && IsClosedFigure(path, step.index)) {
             path.types[FigureEnd(path, step.index)] |= node::kSelected;
         } else {
@@ -46,7 +44,7 @@ int CountSelectedNodes(DevicePath& path) {
 void ShowHandlesOfSelectedNode(DevicePath& path) {
     const std::size_t n = path.types.size();
     for (std::size_t i = 0; i < n; ++i) {
-        if (!Selected(path.types[i])) continue;
+        if (!node::IsSelected(path.types[i])) continue;
         // The curve that ends here: its two controls precede it.
         if (node::IsBezier(path.types[i]) && i >= 2 && node::IsBezier(path.types[i - 1]) &&
             node::IsBezier(path.types[i - 2])) {
@@ -101,9 +99,9 @@ void PaintNodeHandles(Device& device, DevicePath& path) {
         switch (step.kind) {
         case SegmentKind::Move:
             if (!IsClosedFigure(path, i)) DrawHollowNodeMark(device, p[i].x, p[i].y);
-            DrawNodeMark(device, p[i].x, p[i].y, Selected(t));
+            DrawNodeMark(device, p[i].x, p[i].y, node::IsSelected(t));
             break;
-        case SegmentKind::Line: DrawNodeMark(device, p[i].x, p[i].y, Selected(t)); break;
+        case SegmentKind::Line: DrawNodeMark(device, p[i].x, p[i].y, node::IsSelected(t)); break;
         case SegmentKind::Bezier:
             if ((t & node::kShowHandles) != 0) {
                 DrawControlMark(device, p[i].x, p[i].y);
@@ -113,7 +111,7 @@ void PaintNodeHandles(Device& device, DevicePath& path) {
                 device.MoveTo(p[i + 1].x, p[i + 1].y);
                 device.LineTo(p[i + 2].x, p[i + 2].y);
             }
-            DrawNodeMark(device, p[i + 2].x, p[i + 2].y, Selected(path.types[i + 2]));
+            DrawNodeMark(device, p[i + 2].x, p[i + 2].y, node::IsSelected(path.types[i + 2]));
             break;
         case SegmentKind::Close: break;
         }

@@ -1,4 +1,5 @@
 // The screen and device drawing of paths.
+#include "geometry/Isometric.h"
 #include "model/PathObject.h"
 #include "render/DeviceCache.h"
 #include "render/DevicePath.h"

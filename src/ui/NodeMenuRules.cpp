@@ -1,16 +1,10 @@
 #include "ui/NodeMenuRules.h"
 
-#include "model/PathNodes.h"
+#include "model/PathFigures.h"
 #include "model/PathObject.h"
 #include "model/PathSegments.h"
 
 namespace rhomba {
-
-namespace {
-
-bool Selected(NodeType t) { return (t & node::kSelected) != 0; }
-
-} // namespace
 
 bool SplitRule(const PathObject& path) {
     const auto& types = path.Types();
@@ -19,7 +13,7 @@ bool SplitRule(const PathObject& path) {
     while (nodes.Next(step)) {
         if (step.kind != SegmentKind::Line && step.kind != SegmentKind::Bezier) continue;
         const std::size_t end = step.EndIndex();
-        if (!Selected(types[end])) continue;
+        if (!node::IsSelected(types[end])) continue;
         if (step.closes) return true;
         if (end + 1 < types.size() && !node::IsMoveTo(types[end + 1])) return true;
     }
@@ -37,9 +31,9 @@ bool SingleSelectedSegmentRule(const PathObject& path, SegmentKind wanted) {
     NodeSpan step;
     while (nodes.Next(step)) {
         const std::size_t end = step.EndIndex();
-        if (step.kind == SegmentKind::Close || !Selected(types[end])) continue;
+        if (step.kind == SegmentKind::Close || !node::IsSelected(types[end])) continue;
         if (step.kind == SegmentKind::Move) {
-            if (!Selected(types[FigureOf(path, end).last])) return false;
+            if (!node::IsSelected(types[FigureOf(path, end).last])) return false;
         } else if (step.kind == wanted) {
             ++found;
         } else {
