@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The one test command: installs what is missing, builds the native and the Windows cross
-# build, fuzzes the native reader for a minute, runs both test suites (the Windows one under
+# build, runs each fuzz target for 20 seconds, runs both test suites (the Windows one under
 # Wine) and checks that both ran the same number of GoogleTest cases.
 set -euo pipefail
 
@@ -20,18 +20,20 @@ done
 
 status=0
 
-# A short fuzz run of the native reader (clang, libFuzzer, sanitizers); fuzz/run.sh runs longer.
-# Its chatter goes to a log so that the test summaries below stay the last thing printed.
-fuzz_log="$root/build/fuzz-reader.log"
-echo "== fuzz: native reader, 60 seconds (log: $fuzz_log)"
+# A short run of every fuzz target (clang, libFuzzer, sanitizers); fuzz/run.sh runs longer.
+# Their chatter goes to logs so that the test summaries below stay the last thing printed.
 mkdir -p "$root/build"
-if "$root/fuzz/run.sh" 60 >"$fuzz_log" 2>&1; then
-    echo "fuzz: $(grep -E '^Done [0-9]+ runs' "$fuzz_log" | tail -1)"
-else
-    tail -n 60 "$fuzz_log"
-    echo "FAIL: fuzz run of the native reader, see $fuzz_log"
-    status=1
-fi
+for target in reader clipboard pointlist length glyph; do
+    fuzz_log="$root/build/fuzz-$target.log"
+    echo "== fuzz: $target, 20 seconds (log: $fuzz_log)"
+    if "$root/fuzz/run.sh" "$target" 20 >"$fuzz_log" 2>&1; then
+        echo "fuzz: $(grep -E '^Done [0-9]+ runs' "$fuzz_log" | tail -1)"
+    else
+        tail -n 60 "$fuzz_log"
+        echo "FAIL: fuzz run of $target, see $fuzz_log"
+        status=1
+    fi
+done
 
 # Tests that open windows need an X display; one virtual server serves the whole session.
 display_wrapper=()
