@@ -1,6 +1,7 @@
 // Speed of the node operations on large paths. Prints one line per operation with its time.
 #include "model/PathGeometry.h"
 #include "model/PathNodes.h"
+#include "model/PathReduction.h"
 #include "model/PathObject.h"
 #include "model/PathSegments.h"
 

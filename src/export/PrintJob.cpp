@@ -1,6 +1,7 @@
 #include "export/PrintJob.h"
 
 #include "model/Document.h"
+#include "render/DrawContext.h"
 
 namespace rhomba {
 
@@ -38,7 +39,8 @@ bool RunPrintJob(Document& document, Device& printer) {
     printer.SetViewportExt(m.dpiX, m.dpiY);
     printer.SetWindowOrg(0, static_cast<int>(-m.printableHeight * m.dpiY));
     const double scale = m.dpiX;
-    document.DrawEdit(printer, Matrix2D::Scaling(scale, -scale), 0);
+    // Note: screen pens keep the canvas zoom on paper too; existing prints depend on it.
+    document.DrawEdit(printer, {Matrix2D::Scaling(scale, -scale), document.view.zoom}, 0);
     printer.EndPage();
     printer.EndDoc();
     return true;

@@ -3,9 +3,11 @@
 #include "format/FileWrite.h"
 #include "format/Rounding.h"
 #include "geometry/NumberText.h"
+#include "model/Colour.h"
 #include "model/Document.h"
 #include "model/Hotspot.h"
 #include "model/PathObject.h"
+#include "model/PathSegments.h"
 #include "model/Reporter.h"
 #include "model/Windows1252.h"
 
@@ -37,9 +39,9 @@ void SvgWriter::Attribute(std::string_view name, double value, std::string_view 
 }
 
 void SvgWriter::Colour(ColorRef color) {
-    const unsigned rgb = ((color & 0xFF) << 16) | (color & 0xFF00) | ((color >> 16) & 0xFF);
     char text[16];
-    const int n = std::snprintf(text, sizeof text, "#%06x", rgb);
+    const int n =
+        std::snprintf(text, sizeof text, "#%06x", static_cast<unsigned>(SwapRedBlue(color)));
     out_.append(text, static_cast<std::size_t>(n));
 }
 
@@ -106,6 +108,62 @@ void SvgWriter::Xml(std::string_view text, bool attribute) {
 
 std::uint32_t SvgWriter::UniqueNumber(const GraphicObject&) { return ++nextUnique_; }
 
+namespace {
+
+// Writes the d attribute: a command letter only where the kind changes, M and L points rounded to
+// 4 decimals, curve points unrounded, and a close as "z" before the next move or at the end.
+class SvgPathSink final : public PathSink {
+public:
+    SvgPathSink(SvgWriter& out, const Matrix2D& matrix) : out_(out), matrix_(matrix) {}
+
+    void MoveTo(Point2 p) override {
+        if (kind_ != Kind::None) out_.Append(closed_ ? " z " : " ");
+        out_.Append("M ");
+        Rounded(p);
+        Switch(Kind::Move);
+    }
+    void LineTo(Point2 p) override {
+        if (kind_ != Kind::Line) out_.Append(" L");
+        out_.Append(' ');
+        Rounded(p);
+        Switch(Kind::Line);
+    }
+    void CurveTo(Point2 c1, Point2 c2, Point2 end) override {
+        if (kind_ != Kind::Curve) out_.Append(" C");
+        for (Point2 p : {c1, c2, end}) {
+            const Point2 q = matrix_.TransformPoint(p);
+            out_.Append(' ');
+            out_.Number(q.x);
+            out_.Append(' ');
+            out_.Number(q.y);
+        }
+        Switch(Kind::Curve);
+    }
+    void CloseFigure() override { closed_ = true; }
+    void Finish() {
+        if (closed_) out_.Append(" z");
+    }
+
+private:
+    enum class Kind { None, Move, Line, Curve };
+    void Rounded(Point2 p) {
+        const Point2 q = matrix_.TransformPoint(p);
+        out_.Rounded(q.x, 4);
+        out_.Append(' ');
+        out_.Rounded(q.y, 4);
+    }
+    void Switch(Kind kind) {
+        kind_ = kind;
+        closed_ = false;
+    }
+    SvgWriter& out_;
+    const Matrix2D& matrix_;
+    Kind kind_ = Kind::None;
+    bool closed_ = false;
+};
+
+} // namespace
+
 void PathObject::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
     const std::size_t count = NodeCount();
     if (count < 2) return;
@@ -115,39 +173,9 @@ void PathObject::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
     out.FillStyle(HasFill(), GetFillColor());
     out.TrimTrailingBlanks();
     out.Append("\" d=\"");
-    enum class Segment { None, Move, Line, Curve } kind = Segment::None;
-    for (std::size_t i = 0; i < count; ++i) {
-        const NodeType type = types_[i];
-        const Point2 p = matrix.TransformPoint(points_[i]);
-        if (node::IsMoveTo(type)) {
-            if (i != 0) out.Append((types_[i - 1] & node::kCloseFigure) ? " z " : " ");
-            out.Append("M ");
-            out.Rounded(p.x, 4);
-            out.Append(' ');
-            out.Rounded(p.y, 4);
-            kind = Segment::Move;
-        } else if (node::IsLineTo(type)) {
-            if (kind != Segment::Line) out.Append(" L");
-            out.Append(' ');
-            out.Rounded(p.x, 4);
-            out.Append(' ');
-            out.Rounded(p.y, 4);
-            kind = Segment::Line;
-        } else if (node::IsBezier(type)) {
-            if (i + 2 >= count) break; // a cut-off run has no end point
-            if (kind != Segment::Curve) out.Append(" C");
-            for (std::size_t k = 0; k < 3; ++k) {
-                const Point2 q = k == 0 ? p : matrix.TransformPoint(points_[i + k]);
-                out.Append(' ');
-                out.Number(q.x);
-                out.Append(' ');
-                out.Number(q.y);
-            }
-            i += 2;
-            kind = Segment::Curve;
-        }
-    }
-    if (types_[count - 1] & node::kCloseFigure) out.Append(" z");
+    SvgPathSink sink(out, matrix);
+    WalkPath(*this, sink);
+    sink.Finish();
     out.Append("\"/>\r\n");
 }
 
@@ -195,7 +223,7 @@ void Group::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
 void WriteSvgDocument(Document& document, SvgWriter& out) {
     Rect2 box;
     // An empty drawing has no box; it gets a zero-sized picture rather than the negative size
-    // that the empty-box sentinel would give, which renderers refuse.
+    // that the empty-drawing mark would give, which renderers refuse.
     if (!document.GetBounds(box, false) || box.left > box.right || box.bottom > box.top) {
         box = {0, 0, 0, 0};
     }

@@ -2,6 +2,7 @@
 
 #include "format/NativeWriter.h"
 #include "geometry/NumberText.h"
+#include "model/Colour.h"
 #include "model/Document.h"
 #include "model/Hotspot.h"
 #include "model/PathObject.h"
@@ -98,19 +99,9 @@ struct Fields {
     // Hexadecimal RRGGBB as strtoul reads it, turned into a COLORREF.
     ColorRef Colour() {
         SkipBlanks();
-        std::uint32_t rgb = 0;
-        for (; p < end; ++p) {
-            const char c = *p;
-            unsigned digit;
-            if (c >= '0' && c <= '9') digit = static_cast<unsigned>(c - '0');
-            else if (c >= 'a' && c <= 'f') digit = static_cast<unsigned>(c - 'a' + 10);
-            else if (c >= 'A' && c <= 'F') digit = static_cast<unsigned>(c - 'A' + 10);
-            else break;
-            rgb = (rgb << 4) | digit;
-        }
+        const ColorRef colour = ReadHexColour({p, static_cast<std::size_t>(end - p)});
         SkipWord();
-        rgb &= kColourMask;
-        return ((rgb & 0xFF) << 16) | (rgb & 0xFF00) | ((rgb >> 16) & 0xFF);
+        return colour;
     }
 };
 

@@ -2,9 +2,11 @@
 
 #include "format/Rounding.h"
 #include "geometry/NumberText.h"
+#include "model/Colour.h"
 #include "model/Document.h"
 #include "model/Hotspot.h"
 #include "model/PathObject.h"
+#include "model/PathSegments.h"
 #include "model/TextObject.h"
 
 #include <cmath>
@@ -14,9 +16,9 @@
 namespace rhomba {
 
 void AppendRrggbb(std::string& out, ColorRef color, bool padded) {
-    const unsigned rgb = ((color & 0xFF) << 16) | (color & 0xFF00) | ((color >> 16) & 0xFF);
     char text[16];
-    const int n = std::snprintf(text, sizeof text, padded ? "%06X" : "%X", rgb);
+    const int n = std::snprintf(text, sizeof text, padded ? "%06X" : "%X",
+                                static_cast<unsigned>(SwapRedBlue(color)));
     out.append(text, static_cast<std::size_t>(n));
 }
 
@@ -87,6 +89,29 @@ void AppendPoint(NativeWriter& out, Point2 p) {
     out.Rounded(p.y, 4);
 }
 
+class NativePathSink final : public PathSink {
+public:
+    explicit NativePathSink(NativeWriter& out) : out_(out) {}
+    void MoveTo(Point2 p) override { Node('M', p); }
+    void LineTo(Point2 p) override { Node('L', p); }
+    void CurveTo(Point2 c1, Point2 c2, Point2 end) override {
+        out_.Append('C');
+        AppendPoint(out_, c1);
+        AppendPoint(out_, c2);
+        AppendPoint(out_, end);
+        out_.Newline();
+    }
+    void CloseFigure() override { out_.Append("ClosePath\r\n"); }
+
+private:
+    void Node(char letter, Point2 p) {
+        out_.Append(letter);
+        AppendPoint(out_, p);
+        out_.Newline();
+    }
+    NativeWriter& out_;
+};
+
 } // namespace
 
 void PathObject::SaveNative(NativeWriter& out, bool reset) {
@@ -104,31 +129,17 @@ void PathObject::SaveNative(NativeWriter& out, bool reset) {
     if (HasStroke()) out.StrokeLines(GetStrokeColor(), GetPenWidth(), dash_);
     if (HasFill()) out.FillLine(GetFillColor());
 
-    for (std::size_t i = 0; i < count; ++i) {
-        const NodeType type = types_[i];
-        if (node::IsMoveTo(type)) {
-            // A move cannot close anything; the writer drops a stray close bit here.
-            types_[i] = static_cast<NodeType>(type & ~node::kCloseFigure);
-            out.Append('M');
-            AppendPoint(out, points_[i]);
-            out.Newline();
-        } else if (node::IsLineTo(type)) {
-            out.Append('L');
-            AppendPoint(out, points_[i]);
-            out.Newline();
-            if (type & node::kCloseFigure) out.Append("ClosePath\r\n");
-        } else if (node::IsBezier(type)) {
-            if (i + 2 >= count) break; // a cut-off run has no end point to write
-            types_[i] = static_cast<NodeType>(type & ~node::kCloseFigure);
-            out.Append('C');
-            AppendPoint(out, points_[i]);
-            AppendPoint(out, points_[i + 1]);
-            AppendPoint(out, points_[i + 2]);
-            out.Newline();
-            if (types_[i + 2] & node::kCloseFigure) out.Append("ClosePath\r\n");
-            i += 2;
+    // A move cannot close anything, nor a curve's first control; the writer drops stray close
+    // bits there, as reading the file back would.
+    NodeCursor nodes(types_);
+    NodeSpan step;
+    while (nodes.Next(step)) {
+        if (step.kind == SegmentKind::Move || step.kind == SegmentKind::Bezier) {
+            types_[step.index] &= static_cast<NodeType>(~node::kCloseFigure);
         }
     }
+    NativePathSink sink(out);
+    WalkPath(*this, sink);
     out.Append(PaintLetter(HasFill(), HasStroke()));
     out.Newline();
 }

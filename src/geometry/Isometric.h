@@ -6,6 +6,9 @@ namespace rhomba {
 // lengths must land where existing drawings expect them, so it is kept.
 inline constexpr double kPointsPerMillimetre = 2.834653369727658;
 
+// Canvas pixels per document point at zoom 1: five pixels per millimetre.
+inline constexpr double kScreenPixelsPerPoint = 1.763884097222222;
+
 // Divisor from degrees to radians in every two-dimensional rotation and dialog angle field.
 inline constexpr double kDegreesPerRadian = 57.29577951308232;
 

@@ -5,15 +5,15 @@
 namespace rhomba {
 
 // An axis-aligned box with the y axis up: top >= bottom when it holds anything.
-// Note: an accumulated box starts from the 987654321.1 sentinel so that the first point sets all
-// four sides; a box still holding it (left > right) holds nothing.
 struct Rect2 {
-    static constexpr double kSentinel = 987654321.1;
+    // Where an accumulated box starts, so that the first point sets all four sides; a box still
+    // holding it (left > right) holds nothing.
+    static constexpr double kAccumulatorStart = 987654321.1;
 
-    double left = kSentinel;
-    double top = -kSentinel;
-    double right = -kSentinel;
-    double bottom = kSentinel;
+    double left = kAccumulatorStart;
+    double top = -kAccumulatorStart;
+    double right = -kAccumulatorStart;
+    double bottom = kAccumulatorStart;
 
     friend constexpr bool operator==(const Rect2&, const Rect2&) = default;
 

@@ -1,7 +1,7 @@
 #include "model/Combine.h"
 
 #include "model/Document.h"
-#include "model/PathNodes.h"
+#include "model/PathFigures.h"
 #include "model/PathObject.h"
 
 #include <vector>

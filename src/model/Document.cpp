@@ -1,12 +1,14 @@
 #include "model/Document.h"
 
+#include "geometry/Isometric.h"
+
 #include <algorithm>
 #include <limits>
 
 namespace rhomba {
 
 ViewState::ViewState() {
-    const double scale = zoom * kScaleAtZoom1;
+    const double scale = zoom * kScreenPixelsPerPoint;
     view = Multiply(Matrix2D::Scaling(scale, -scale), Matrix2D::Translation(100, 800));
     Invert(view, inverse);
 }
@@ -17,7 +19,7 @@ Document::Document() {
 }
 
 bool Document::GetBounds(Rect2& bounds, bool withPenWidth) {
-    bounds = {kEmptyBox, -kEmptyBox, -kEmptyBox, kEmptyBox};
+    bounds = {kEmptyDrawingMark, -kEmptyDrawingMark, -kEmptyDrawingMark, kEmptyDrawingMark};
     return Group::GetBounds(bounds, withPenWidth);
 }
 

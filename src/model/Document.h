@@ -25,9 +25,6 @@ struct StyleDefaults {
 
 // What the canvas reads and writes: the view matrix maps document points to client pixels.
 struct ViewState {
-    // Canvas pixels per document point at zoom 1.
-    static constexpr double kScaleAtZoom1 = 1.763884097222222;
-
     double zoom = 0.5;
     Matrix2D view;
     Matrix2D inverse;
@@ -45,15 +42,16 @@ enum class SelectionChange { Replace, Add, Toggle };
 class Document : public Group {
 public:
     static constexpr std::uint32_t kFlagDraft = 4;
-    // The box GetBounds starts from: left beyond any right, top below any bottom.
-    static constexpr double kEmptyBox = 987654321.9;
+    // What GetBounds starts from, and so answers for a drawing with nothing in it: left beyond
+    // any right, top below any bottom. Note: not the accumulator's start of Rect2; both stay.
+    static constexpr double kEmptyDrawingMark = 987654321.9;
 
     Document();
 
     ObjectKind GetKind() const override { return ObjectKind::Document; }
     // The whole file: header, every layer with its children, end line.
     void SaveNative(NativeWriter& out, bool reset) override;
-    // Starts from the empty box, then measures the layers like a group.
+    // Starts from the empty-drawing mark, then measures the layers like a group.
     bool GetBounds(Rect2& bounds, bool withPenWidth) override;
     // Divides the tolerance by the zoom, then asks the layers from the first to the last.
     GraphicObject* HitTest(Point2 probe, double tolerance) override;

@@ -5,7 +5,7 @@
 namespace rhomba {
 
 void GraphicObject::Describe(std::string& out) const { out = "Grafikdaten"; }
-void GraphicObject::DrawEdit(Device&, const Matrix2D&, unsigned) {}
+void GraphicObject::DrawEdit(Device&, const DrawContext&, unsigned) {}
 void GraphicObject::SaveNative(NativeWriter&, bool) {}
 void GraphicObject::ExportQuenda(QuendaWriter&, const Matrix2D&) {}
 void GraphicObject::ExportSvg(SvgWriter&, const Matrix2D&, int) {}

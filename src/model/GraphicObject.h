@@ -13,6 +13,7 @@
 namespace rhomba {
 
 class Device;
+struct DrawContext;
 class Document;
 class Group;
 class NativeWriter;
@@ -39,7 +40,7 @@ public:
     virtual ~GraphicObject() = default;
 
     /*  0 */ virtual void Describe(std::string& out) const;
-    /*  1 */ virtual void DrawEdit(Device& device, const Matrix2D& view, unsigned flags);
+    /*  1 */ virtual void DrawEdit(Device& device, const DrawContext& context, unsigned flags);
     /*  2 */ virtual void SaveNative(NativeWriter& out, bool reset);
     /*  3 */ virtual void ExportQuenda(QuendaWriter& out, const Matrix2D& matrix);
     /*  4 */ virtual void ExportSvg(SvgWriter& out, const Matrix2D& matrix, int flag);

@@ -25,9 +25,9 @@ void Group::Describe(std::string& out) const {
     out = text;
 }
 
-void Group::DrawEdit(Device& device, const Matrix2D& view, unsigned flags) {
+void Group::DrawEdit(Device& device, const DrawContext& context, unsigned flags) {
     if (IsHidden()) return;
-    for (auto& child : children_) child->DrawEdit(device, view, flags);
+    for (auto& child : children_) child->DrawEdit(device, context, flags);
 }
 
 void Group::SetSelected(bool selected) {

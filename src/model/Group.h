@@ -18,7 +18,7 @@ public:
     ~Group() override;
 
     void Describe(std::string& out) const override;
-    void DrawEdit(Device& device, const Matrix2D& view, unsigned flags) override;
+    void DrawEdit(Device& device, const DrawContext& context, unsigned flags) override;
     // Every child in order, hidden ones included.
     void Render(Device& device, const Matrix2D& view) override;
     // Written only when it holds something; children in order between Group and GroupEnd.

@@ -17,7 +17,7 @@ public:
     void ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) override;
     ObjectKind GetKind() const override { return ObjectKind::Hotspot; }
     // A one-pixel rectangle, blue when selected, light red otherwise.
-    void DrawEdit(Device& device, const Matrix2D& view, unsigned flags) override;
+    void DrawEdit(Device& device, const DrawContext& context, unsigned flags) override;
     // Copies the rectangle; the pen width does not apply.
     bool GetBounds(Rect2& bounds, bool withPenWidth) override;
     // Near one of the four edges, tested top, right, bottom, left; the inside is no hit.

@@ -1,9 +1,8 @@
 #include "model/PathNodes.h"
 
 #include "geometry/Bezier.h"
-#include "geometry/BezierFit.h"
 #include "geometry/SegmentProximity.h"
-#include "model/Document.h"
+#include "model/PathFigures.h"
 #include "model/PathObject.h"
 #include "model/PathSegments.h"
 
@@ -16,17 +15,9 @@ namespace {
 
 using node::kCloseFigure;
 using node::kKindMask;
+using node::IsSelected;
 using node::kSelected;
-
-constexpr NodeType Kind(NodeType t) { return t & kKindMask; }
-constexpr NodeType WithKind(NodeType t, NodeType kind) {
-    return static_cast<NodeType>((t & ~kKindMask) | kind);
-}
-constexpr bool Selected(NodeType t) { return (t & kSelected) != 0; }
-
-bool StartsFigure(const PathObject& path, std::size_t i) {
-    return i == 0 || node::IsMoveTo(path.TypeAt(i));
-}
+using node::WithKind;
 
 // The segment that ends at node index (a line node or a Bezier end point), if there is one.
 std::optional<PathSegment> SegmentEndingAt(const PathObject& path, std::size_t index) {
@@ -72,7 +63,7 @@ void ReverseFigure(NodeRun& run) {
     if (n == 0) return;
     std::vector<NodeType> kinds(n);
     for (std::size_t m = 0; m < n; ++m) {
-        kinds[m] = m == 0 ? node::kMoveTo : Kind(run.types[n - m]);
+        kinds[m] = m == 0 ? node::kMoveTo : static_cast<NodeType>(run.types[n - m] & kKindMask);
     }
     PathObject::Reverse(run);
     for (std::size_t m = 0; m < n; ++m) {
@@ -146,22 +137,34 @@ std::optional<JoinResult> Join(PathObject& path, std::size_t a, std::size_t b) {
     return JoinResult{j - count + 1, true};
 }
 
-// A point on the line through an end node's end segment other than the node itself, read from
-// the segment's first or last points.
+// The line or Bezier that starts with node index, if there is one.
+std::optional<PathSegment> SegmentStartingAt(const PathObject& path, std::size_t index) {
+    SegmentCursor cursor(path.Points(), path.Types());
+    PathSegment s;
+    while (cursor.Next(s) && s.index <= index) {
+        if (s.index == index && (s.kind == SegmentKind::Line || s.kind == SegmentKind::Bezier)) {
+            return s;
+        }
+    }
+    return std::nullopt;
+}
+
+// A point on the line through an end node's end segment other than the node itself: the first
+// of the segment's other points, nearest to the node first, that differs from it.
 std::optional<Point2> EndSegmentNeighbour(const PathObject& path, std::size_t k) {
     const Point2 p = path.PointAt(k);
     const FigureRange figure = FigureOf(path, k);
     if (figure.first == figure.last) return std::nullopt;
+    std::vector<Point2> others;
     if (k == figure.first) {
-        const std::size_t reach = node::IsBezier(path.TypeAt(k + 1)) ? 3 : 1;
-        for (std::size_t m = k + 1; m <= figure.last && m <= k + reach; ++m) {
-            if (!(path.PointAt(m) == p)) return path.PointAt(m);
-        }
-        return std::nullopt;
+        const auto s = SegmentStartingAt(path, k + 1);
+        if (s) others.assign(s->points.begin(), s->points.end());
+    } else if (const auto s = SegmentEndingAt(path, k)) {
+        others.assign(s->points.rbegin() + 1, s->points.rend());
+        others.push_back(s->start);
     }
-    const std::size_t reach = node::IsBezier(path.TypeAt(k)) ? 3 : 1;
-    for (std::size_t m = k; m-- > figure.first && m + reach >= k;) {
-        if (!(path.PointAt(m) == p)) return path.PointAt(m);
+    for (Point2 q : others) {
+        if (!(q == p)) return q;
     }
     return std::nullopt;
 }
@@ -169,39 +172,6 @@ std::optional<Point2> EndSegmentNeighbour(const PathObject& path, std::size_t k)
 double Cross(Point2 a, Point2 b) { return a.x * b.y - a.y * b.x; }
 
 } // namespace
-
-std::size_t CountSelectedNodes(const PathObject& path) {
-    std::size_t count = 0;
-    for (NodeType t : path.Types()) count += Selected(t) ? 1 : 0;
-    return count;
-}
-
-long NextSelectedNode(const PathObject& path, std::size_t from) {
-    for (std::size_t i = from; i < path.NodeCount(); ++i) {
-        if (Selected(path.TypeAt(i))) return static_cast<long>(i);
-    }
-    return -1;
-}
-
-FigureRange FigureOf(const PathObject& path, std::size_t index) {
-    FigureRange range{index, index};
-    while (!StartsFigure(path, range.first)) --range.first;
-    while (range.last + 1 < path.NodeCount() && !StartsFigure(path, range.last + 1)) ++range.last;
-    return range;
-}
-
-bool IsOpenEndNode(const PathObject& path, std::size_t index) {
-    if (index >= path.NodeCount()) return false;
-    const FigureRange figure = FigureOf(path, index);
-    if (figure.last != figure.first && (path.TypeAt(figure.last) & kCloseFigure) != 0) return false;
-    return index == figure.first || index == figure.last;
-}
-
-std::size_t CountFigures(const PathObject& path) {
-    std::size_t count = 0;
-    for (std::size_t i = 0; i < path.NodeCount(); ++i) count += StartsFigure(path, i) ? 1 : 0;
-    return count;
-}
 
 bool ConvertToCurve(PathObject& path, std::size_t index) {
     const auto segment = ConvertibleSegment(path, index, SegmentKind::Line);
@@ -224,11 +194,7 @@ bool ConvertToLine(PathObject& path, std::size_t index) {
     return true;
 }
 
-double AddNodeTolerance(const PathObject& path) {
-    const Document* document = path.GetOwner();
-    if (document != nullptr && document->view.zoom > 0) return 5.0 / document->view.zoom;
-    return 10.0;
-}
+double AddNodeTolerance(double zoom) { return zoom > 0 ? 5.0 / zoom : 10.0; }
 
 bool AddNodeAt(PathObject& path, Point2 q, double tolerance) {
     struct Best {
@@ -357,7 +323,7 @@ std::size_t DeleteSelectedNodes(PathObject& path) {
         bool closed = false;
         Pending pending;
         bool haveStart = false;
-        if (!Selected(types[s.index])) {
+        if (!IsSelected(types[s.index])) {
             out.points.push_back(s.End());
             out.types.push_back(static_cast<NodeType>(WithKind(types[s.index], node::kMoveTo) & ~kCloseFigure));
             haveStart = true;
@@ -371,7 +337,7 @@ std::size_t DeleteSelectedNodes(PathObject& path) {
             const std::size_t end = s.EndIndex();
             if (!haveStart) {
                 // Segments before the first kept node go with the deleted move.
-                if (!Selected(types[end])) {
+                if (!IsSelected(types[end])) {
                     out.points.push_back(s.End());
                     out.types.push_back(static_cast<NodeType>(WithKind(types[end], node::kMoveTo) & ~kCloseFigure));
                     haveStart = true;
@@ -410,7 +376,7 @@ std::size_t DeleteSelectedNodes(PathObject& path) {
             } else {
                 pending.end = s.End();
             }
-            if (Selected(types[end])) continue;
+            if (IsSelected(types[end])) continue;
             if (pending.curve) {
                 out.points.push_back(pending.c1);
                 out.types.push_back(WithKind(pending.c1Type, node::kBezierTo) & ~(kSelected | kCloseFigure));
@@ -454,154 +420,11 @@ void SplitAtSelectedNodes(PathObject& path) {
     for (std::size_t i = 0; i < n; ++i) {
         out.points.push_back(all.points[i]);
         out.types.push_back(all.types[i]);
-        if (segmentEnd[i] && Selected(all.types[i]) && i + 1 < n && !node::IsMoveTo(all.types[i + 1])) {
+        if (segmentEnd[i] && IsSelected(all.types[i]) && i + 1 < n && !node::IsMoveTo(all.types[i + 1])) {
             out.points.push_back(all.points[i]);
             out.types.push_back(node::kMoveTo);
         }
     }
     path.InsertNodes(0, out);
 }
-
-namespace {
-
-// Reduction: the largest distance of the original from the result, the spacing at which the
-// original is sampled for the fit, the fewest samples taken of a curve, and the length above
-// which a straight segment is kept as it is.
-constexpr double kReduceTolerance = 2.8;
-constexpr double kSampleSpacing = 1.0;
-constexpr std::size_t kCurveSamples = 20;
-constexpr std::size_t kMaxSamples = 32767;
-constexpr double kLongLine = 20;
-// A direction change above this at a node keeps the node as a corner (cos 30 degrees).
-constexpr double kCornerCosine = 0.8660254037844386;
-
-std::size_t SampleCount(double length, std::size_t fewest) {
-    const double wanted = std::ceil(length / kSampleSpacing);
-    if (!(wanted < static_cast<double>(kMaxSamples))) return kMaxSamples;
-    return std::max(fewest, static_cast<std::size_t>(wanted));
-}
-
-void CopySegment(const PathObject& path, const PathSegment& s, NodeRun& out) {
-    for (std::size_t k = 0; k < s.points.size(); ++k) {
-        out.points.push_back(s.points[k]);
-        out.types.push_back(path.TypeAt(s.index + k));
-    }
-}
-
-// Refits the segments run[0..] (all ends selected, their start selected too) into out; falls back
-// to copying them when the fit saves nothing.
-void ReduceRun(const PathObject& path, std::span<const PathSegment> run, NodeRun& out) {
-    std::vector<Point2> data{run.front().start};
-    std::vector<bool> corner{false};
-    std::vector<std::size_t> nodeAt; // data index of each interior original node
-    std::size_t original = 0;
-    for (const PathSegment& s : run) {
-        original += s.points.size();
-        if (s.kind == SegmentKind::Line) {
-            const Point2 a = s.start, b = s.End();
-            const double length = std::hypot(b.x - a.x, b.y - a.y);
-            if (length > kLongLine) {
-                // A long straight segment stays: both its ends become corners.
-                corner.back() = true;
-                data.push_back(b);
-                corner.push_back(true);
-            } else {
-                const std::size_t n = SampleCount(length, 1);
-                for (std::size_t k = 1; k <= n; ++k) {
-                    data.push_back(a + (b - a) * (static_cast<double>(k) / n));
-                    corner.push_back(false);
-                }
-            }
-        } else {
-            const CubicBezier c = s.Curve();
-            const double polygon = std::hypot(c.p1.x - c.p0.x, c.p1.y - c.p0.y) +
-                                   std::hypot(c.p2.x - c.p1.x, c.p2.y - c.p1.y) +
-                                   std::hypot(c.p3.x - c.p2.x, c.p3.y - c.p2.y);
-            const std::size_t n = SampleCount(polygon, kCurveSamples);
-            for (std::size_t k = 1; k <= n; ++k) {
-                data.push_back(k == n ? c.p3 : c.At(static_cast<double>(k) / n));
-                corner.push_back(false);
-            }
-        }
-        nodeAt.push_back(data.size() - 1);
-    }
-    nodeAt.pop_back(); // the run's last node is an end, not an interior node
-    for (std::size_t d : nodeAt) {
-        const Point2 in = data[d] - data[d - 1], out2 = data[d + 1] - data[d];
-        const double lengths = std::hypot(in.x, in.y) * std::hypot(out2.x, out2.y);
-        if (lengths > 0 && (in.x * out2.x + in.y * out2.y) < kCornerCosine * lengths) corner[d] = true;
-    }
-    corner.back() = true;
-
-    // Fitting to a little less than the tolerance covers the original between its samples too.
-    FitLimits limits;
-    limits.tolerance = kReduceTolerance - kSampleSpacing / 2;
-    const std::vector<FitPiece> pieces = FitPolyline(data, corner, limits);
-    std::size_t reduced = 0;
-    for (const FitPiece& piece : pieces) reduced += piece.curve ? 3 : 1;
-    if (pieces.empty() || reduced >= original) {
-        for (const PathSegment& s : run) CopySegment(path, s, out);
-        return;
-    }
-    const NodeType lastType = path.TypeAt(run.back().EndIndex());
-    for (std::size_t k = 0; k < pieces.size(); ++k) {
-        const FitPiece& piece = pieces[k];
-        const NodeType kind = piece.curve ? node::kBezierTo : node::kLineTo;
-        if (piece.curve) {
-            out.points.push_back(piece.c1);
-            out.types.push_back(node::kBezierTo);
-            out.points.push_back(piece.c2);
-            out.types.push_back(node::kBezierTo);
-        }
-        out.points.push_back(data[piece.end]);
-        out.types.push_back(k + 1 == pieces.size() ? WithKind(lastType, kind)
-                                                   : static_cast<NodeType>(kind | kSelected));
-    }
-}
-
-} // namespace
-
-std::size_t ReduceSelectedNodes(PathObject& path) {
-    const std::size_t before = path.NodeCount();
-    std::vector<PathSegment> segments;
-    {
-        SegmentCursor cursor(path.Points(), path.Types());
-        PathSegment s;
-        while (cursor.Next(s)) {
-            if (s.kind != SegmentKind::Close) segments.push_back(s);
-        }
-    }
-    NodeRun out;
-    out.points.reserve(before);
-    out.types.reserve(before);
-    std::size_t startNode = 0; // the on-curve node the next segment starts from
-    for (std::size_t k = 0; k < segments.size();) {
-        const PathSegment& s = segments[k];
-        if (s.kind == SegmentKind::Move) {
-            CopySegment(path, s, out);
-            startNode = s.index;
-            ++k;
-            continue;
-        }
-        std::size_t m = k;
-        if (Selected(path.TypeAt(startNode))) {
-            while (m < segments.size() && segments[m].kind != SegmentKind::Move &&
-                   Selected(path.TypeAt(segments[m].EndIndex()))) {
-                ++m;
-            }
-        }
-        if (m - k >= 2) {
-            ReduceRun(path, std::span<const PathSegment>(segments.data() + k, m - k), out);
-        } else {
-            m = k + 1;
-            CopySegment(path, s, out);
-        }
-        startNode = segments[m - 1].EndIndex();
-        k = m;
-    }
-    path.ClearNodes();
-    path.InsertNodes(0, out);
-    return before - path.NodeCount();
-}
-
 } // namespace rhomba

@@ -8,23 +8,7 @@ namespace rhomba {
 
 class PathObject;
 
-// --- Queries the node menu and the tools read ---------------------------------------------------
-
-// Nodes whose selection bit is set, control points included.
-std::size_t CountSelectedNodes(const PathObject& path);
-// The first selected node at or after from, or -1.
-long NextSelectedNode(const PathObject& path, std::size_t from);
-// The first and last node of the figure that holds index.
-struct FigureRange {
-    std::size_t first = 0;
-    std::size_t last = 0;
-};
-FigureRange FigureOf(const PathObject& path, std::size_t index);
-// True for the first or last node of an open figure.
-bool IsOpenEndNode(const PathObject& path, std::size_t index);
-std::size_t CountFigures(const PathObject& path);
-
-// --- Node operations -----------------------------------------------------------------------------
+// The node menu's edits of a path.
 
 // "In Kurve": the line segment ending at index (at the last node when index is a closed figure's
 // move) becomes a Bezier with its controls at the truncated thirds. False when nothing changed.
@@ -33,8 +17,9 @@ bool ConvertToCurve(PathObject& path, std::size_t index);
 // "In Linie": the Bezier ending at index becomes a straight segment.
 bool ConvertToLine(PathObject& path, std::size_t index);
 
-// The hit tolerance of "Hinzufuegen": five screen points in a document's view, else 10 points.
-double AddNodeTolerance(const PathObject& path);
+// The hit tolerance of "Hinzufuegen": five screen points at the canvas zoom, 10 points without
+// one (zoom 0).
+double AddNodeTolerance(double zoom);
 // "Hinzufuegen": inserts a node into the segment nearest to q within tolerance (of equally near
 // segments the earlier one); a curve is split at the nearest parameter and keeps its look.
 bool AddNodeAt(PathObject& path, Point2 q, double tolerance);
@@ -54,8 +39,5 @@ std::size_t DeleteSelectedNodes(PathObject& path);
 // "Trennen": opens every figure and starts a new figure at each selected segment end that is
 // followed by more of its figure.
 void SplitAtSelectedNodes(PathObject& path);
-
-// "Automatisch reduzieren": refits the runs of selected nodes; returns the number of nodes saved.
-std::size_t ReduceSelectedNodes(PathObject& path);
 
 } // namespace rhomba

@@ -29,7 +29,7 @@ public:
     void ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) override;
     ObjectKind GetKind() const override { return ObjectKind::Path; }
     // Screen drawing: fill, stroke at the zoom's width, selection overdraw, node handles.
-    void DrawEdit(Device& device, const Matrix2D& view, unsigned flags) override;
+    void DrawEdit(Device& device, const DrawContext& context, unsigned flags) override;
     // Device drawing in twentieths of a point through the shared pen and brush cache.
     void Render(Device& device, const Matrix2D& view) override;
     void Transform(const Matrix2D& matrix) override;

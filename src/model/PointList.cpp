@@ -2,6 +2,7 @@
 
 #include "geometry/Isometric.h"
 #include "geometry/NumberText.h"
+#include "model/PathSegments.h"
 
 #include <cmath>
 #include <vector>
@@ -36,17 +37,24 @@ char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + '
 
 } // namespace
 
-std::string FormatPointList(const PathObject& path) {
+std::string FormatPointList(const PathObject& path, std::size_t limit) {
     std::string out;
-    for (std::size_t i = 0; i < path.NodeCount(); ++i) {
-        const NodeType t = path.TypeAt(i);
-        out += node::IsMoveTo(t) ? "M " : node::IsBezier(t) ? "B " : "L ";
-        const Point2 p = path.PointAt(i);
-        AppendMillimetres(out, p.x);
-        out += ' ';
-        AppendMillimetres(out, p.y);
-        if (!node::IsMoveTo(t) && (t & node::kCloseFigure) != 0) out += " Z";
-        out += "\r\n";
+    SegmentCursor cursor(path.Points(), path.Types());
+    PathSegment s;
+    while (cursor.Next(s)) {
+        if (s.kind == SegmentKind::Close) continue;
+        const char* kind = s.kind == SegmentKind::Move     ? "M "
+                           : s.kind == SegmentKind::Bezier ? "B "
+                                                           : "L ";
+        for (std::size_t k = 0; k < s.count; ++k) {
+            if (s.index + k >= limit) return out;
+            out += kind;
+            AppendMillimetres(out, s.points[k].x);
+            out += ' ';
+            AppendMillimetres(out, s.points[k].y);
+            if (s.closes && k + 1 == s.count) out += " Z";
+            out += "\r\n";
+        }
     }
     return out;
 }

@@ -2,6 +2,7 @@
 
 #include "model/PathObject.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -9,8 +10,9 @@ namespace rhomba {
 
 // The coordinates page's text of a path: one node per line, "M", "L" or "B" (move, line, Bezier
 // point) and x and y in millimetres with a decimal comma, " Z" after a node that closes its
-// figure; lines end in CR LF. Example: "M 0 0\r\nL 35,278 0 Z\r\n".
-std::string FormatPointList(const PathObject& path);
+// figure; lines end in CR LF. Example: "M 0 0\r\nL 35,278 0 Z\r\n". Only the nodes below limit
+// are listed, even when that cuts a curve short.
+std::string FormatPointList(const PathObject& path, std::size_t limit = SIZE_MAX);
 
 // Reads such a text back. Commas count as decimal points; blanks, tabs and semicolons separate
 // words; a line without a kind letter is a move when it starts the list and a line otherwise.

@@ -21,7 +21,7 @@ public:
     void ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) override;
     ObjectKind GetKind() const override { return ObjectKind::Text; }
     // On the screen the outline draws, with the text's selection.
-    void DrawEdit(Device& device, const Matrix2D& view, unsigned flags) override;
+    void DrawEdit(Device& device, const DrawContext& context, unsigned flags) override;
     // On devices the font draws: TextOutW at the anchor with the mixed text colour.
     void Render(Device& device, const Matrix2D& view) override;
     void SetSelected(bool selected) override;

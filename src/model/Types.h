@@ -23,6 +23,11 @@ inline constexpr NodeType kSelected = 0x80;
 constexpr bool IsMoveTo(NodeType t) { return (t & kKindMask) == kMoveTo; }
 constexpr bool IsLineTo(NodeType t) { return (t & kKindMask) == kLineTo; }
 constexpr bool IsBezier(NodeType t) { return (t & kKindMask) == kBezierTo; }
+constexpr bool IsSelected(NodeType t) { return (t & kSelected) != 0; }
+// The byte with its kind bits replaced, the others kept.
+constexpr NodeType WithKind(NodeType t, NodeType kind) {
+    return static_cast<NodeType>((t & ~kKindMask) | kind);
+}
 } // namespace node
 
 // Up to four (dash, gap) pairs in pen-width units; a pair with a 0 ends the list.

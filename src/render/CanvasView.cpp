@@ -4,6 +4,7 @@
 #include "model/Document.h"
 #include "model/PathObject.h"
 #include "render/DevicePath.h"
+#include "render/DrawContext.h"
 #include "render/DrawFlags.h"
 
 #include <cmath>
@@ -72,16 +73,16 @@ void CanvasView::ScrollBy(double dx, double dy) {
 }
 
 void CanvasView::Paint(Device& device, int tool) {
-    const Matrix2D view = document_.view.view;
+    const DrawContext context{document_.view.view, document_.view.zoom};
     if (switches.pageFrame) DrawPageFrame(device);
     if (switches.coordinateCross) DrawCoordinateCross(device);
     const unsigned flags = (document_.GetFlags() & Document::kFlagDraft) ? kDrawOutline : 0;
     for (std::size_t i = 0; i < document_.LayerCount(); ++i) {
-        document_.LayerAt(i).DrawEdit(device, view, flags);
+        document_.LayerAt(i).DrawEdit(device, context, flags);
     }
     if (!document_.Selection().empty()) {
         if (tool == kToolNode) {
-            document_.Selection().front()->DrawEdit(device, view, kDrawNodesOnly);
+            document_.Selection().front()->DrawEdit(device, context, kDrawNodesOnly);
         } else if (tool == kToolSelect) {
             DrawSelectionBox(device);
         }
@@ -101,7 +102,7 @@ void CanvasView::DrawPageFrame(Device& device) {
         page_->SetStrokeColor(kPageColour);
         page_->SetPenWidth(0.0001);
     }
-    page_->DrawEdit(device, document_.view.view, 0);
+    page_->DrawEdit(device, {document_.view.view, document_.view.zoom}, 0);
 }
 
 void CanvasView::DrawCoordinateCross(Device& device) {

@@ -1,6 +1,7 @@
 #include "render/DevicePath.h"
 
 #include "model/PathObject.h"
+#include "model/PathSegments.h"
 
 #include <cmath>
 #include <limits>
@@ -36,48 +37,51 @@ void ConvertPath(const PathObject& path, const Matrix2D& view, TypeRule rule, De
     case TypeRule::Full:
         for (std::size_t i = 0; i < n; ++i) out.types[i] = types[i];
         break;
-    case TypeRule::Device:
-        for (std::size_t i = 0; i < n; ++i) {
-            const NodeType t = types[i];
-            if (node::IsMoveTo(t)) {
-                out.types[i] = t & 6;
-            } else if (node::IsBezier(t)) {
-                // Two plain controls, then the end point keeps its close bit.
-                out.types[i] = node::kBezierTo;
-                if (i + 1 < n) out.types[i + 1] = node::kBezierTo;
-                if (i + 2 < n) out.types[i + 2] = types[i + 2] & 7;
-                i += 2;
-            } else {
-                out.types[i] = t & 7;
-            }
+    case TypeRule::Device: {
+        // Two plain controls, then the end point keeps its close bit; moves lose theirs.
+        for (std::size_t i = 0; i < n; ++i) out.types[i] = types[i] & 7;
+        NodeCursor nodes(types);
+        NodeSpan step;
+        while (nodes.Next(step)) {
+            if (step.kind == SegmentKind::Move) out.types[step.index] &= node::kKindMask;
+            if (step.kind != SegmentKind::Bezier) continue;
+            out.types[step.index] = node::kBezierTo;
+            out.types[step.index + 1] = node::kBezierTo;
         }
         break;
     }
+    }
 }
 
-void EmitSegments(Device& device, const DevicePath& path) {
-    const std::size_t n = path.points.size();
-    for (std::size_t i = 0; i < n; ++i) {
-        const std::uint8_t t = path.types[i];
-        switch (t & 6) {
-        case 6:
-            device.MoveTo(path.points[i].x, path.points[i].y);
-            break;
-        case 2:
-            device.LineTo(path.points[i].x, path.points[i].y);
-            if (t & 1) device.CloseFigure();
-            break;
-        case 4:
-            // A run cut short at the end of the array is not a curve; it is dropped.
-            if (i + 2 >= n) return;
-            device.PolyBezierTo(std::span<const DevicePoint>(&path.points[i], 3));
-            i += 2;
-            if (path.types[i] & 1) device.CloseFigure();
-            break;
-        default:
-            break;
-        }
+namespace {
+
+class DeviceSink final : public PathSink {
+public:
+    DeviceSink(Device& device, const Matrix2D& view) : device_(device), view_(view) {}
+    void MoveTo(Point2 p) override {
+        const DevicePoint q = ToDevice(view_, p);
+        device_.MoveTo(q.x, q.y);
     }
+    void LineTo(Point2 p) override {
+        const DevicePoint q = ToDevice(view_, p);
+        device_.LineTo(q.x, q.y);
+    }
+    void CurveTo(Point2 c1, Point2 c2, Point2 end) override {
+        const DevicePoint q[3] = {ToDevice(view_, c1), ToDevice(view_, c2), ToDevice(view_, end)};
+        device_.PolyBezierTo(q);
+    }
+    void CloseFigure() override { device_.CloseFigure(); }
+
+private:
+    Device& device_;
+    const Matrix2D& view_;
+};
+
+} // namespace
+
+void EmitSegments(Device& device, const PathObject& path, const Matrix2D& view) {
+    DeviceSink sink(device, view);
+    WalkPath(path, sink);
 }
 
 } // namespace rhomba

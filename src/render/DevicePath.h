@@ -32,7 +32,7 @@ enum class TypeRule {
 // Fills out (cleared first) with the path's points mapped through view.
 void ConvertPath(const PathObject& path, const Matrix2D& view, TypeRule rule, DevicePath& out);
 
-// Issues the converted path as MoveTo/LineTo/PolyBezierTo/CloseFigure calls.
-void EmitSegments(Device& device, const DevicePath& path);
+// Issues the path mapped through view as MoveTo/LineTo/PolyBezierTo/CloseFigure calls.
+void EmitSegments(Device& device, const PathObject& path, const Matrix2D& view);
 
 } // namespace rhomba

@@ -8,7 +8,4 @@ inline constexpr unsigned kDrawOutline = 2;    // outline (draft) view: thin lin
 // Selected objects become thin blue outlines; with kDrawOutline every path is filled black.
 inline constexpr unsigned kDrawHighlight = 4;
 
-// Canvas pixels per point at zoom 1: five pixels per millimetre.
-inline constexpr double kScreenPixelsPerPoint = 1.763884097222222;
-
 } // namespace rhomba

@@ -1,10 +1,12 @@
 // Hotspots show on the canvas only; they are neither printed nor exported.
 #include "model/Hotspot.h"
 #include "render/DevicePath.h"
+#include "render/DrawContext.h"
 
 namespace rhomba {
 
-void Hotspot::DrawEdit(Device& device, const Matrix2D& view, unsigned) {
+void Hotspot::DrawEdit(Device& device, const DrawContext& context, unsigned) {
+    const Matrix2D& view = context.view;
     const Rect2 r = GetRect();
     const DevicePoint upperLeft = ToDevice(view, {r.left, r.top});
     const DevicePoint lowerRight = ToDevice(view, {r.right, r.bottom});

@@ -1,6 +1,7 @@
 #include "render/NodeMarks.h"
 
 #include "model/PathObject.h"
+#include "model/PathSegments.h"
 
 namespace rhomba {
 
@@ -22,26 +23,19 @@ bool IsClosedFigure(const DevicePath& path, std::size_t move) {
     return last != move && (path.types[last] & node::kCloseFigure) != 0;
 }
 
-bool Selected(std::uint8_t t) { return (t & node::kSelected) != 0; }
-
 // Counts the selected nodes; a selected start of a closed figure passes its mark to the
 // figure's last point, where it is counted once.
 int CountSelectedNodes(DevicePath& path) {
     int count = 0;
-    const std::size_t n = path.types.size();
-    for (std::size_t i = 0; i < n; ++i) {
-        const std::uint8_t t = path.types[i];
-        if (node::IsLineTo(t)) {
-            if (Selected(t)) ++count;
-        } else if (node::IsBezier(t)) {
-            if (i + 2 < n && Selected(path.types[i + 2])) ++count;
-            i += 2;
-        } else if (node::IsMoveTo(t) && Selected(t)) {
-            if (IsClosedFigure(path, i)) {
-                path.types[FigureEnd(path, i)] |= node::kSelected;
-            } else {
-                ++count;
-            }
+    NodeCursor nodes(path.types);
+    NodeSpan step;
+    while (nodes.Next(step)) {
+        const std::uint8_t t = path.types[step.EndIndex()];
+        if (!node::IsSelected(t) || step.kind == SegmentKind::Close) continue;
+        if (step.kind == SegmentKind::Move && IsClosedFigure(path, step.index)) {
+            path.types[FigureEnd(path, step.index)] |= node::kSelected;
+        } else {
+            ++count;
         }
     }
     return count;
@@ -50,7 +44,7 @@ int CountSelectedNodes(DevicePath& path) {
 void ShowHandlesOfSelectedNode(DevicePath& path) {
     const std::size_t n = path.types.size();
     for (std::size_t i = 0; i < n; ++i) {
-        if (!Selected(path.types[i])) continue;
+        if (!node::IsSelected(path.types[i])) continue;
         // The curve that ends here: its two controls precede it.
         if (node::IsBezier(path.types[i]) && i >= 2 && node::IsBezier(path.types[i - 1]) &&
             node::IsBezier(path.types[i - 2])) {
@@ -96,29 +90,30 @@ void PaintNodeHandles(Device& device, DevicePath& path) {
     if (CountSelectedNodes(path) == 1) ShowHandlesOfSelectedNode(path);
 
     SelectedObject pen(device, device.CreatePen(gdi::kPsSolid, 1, kBlue), true);
-    const std::size_t n = path.types.size();
     const auto& p = path.points;
-    for (std::size_t i = 0; i < n; ++i) {
+    NodeCursor nodes(path.types);
+    NodeSpan step;
+    while (nodes.Next(step)) {
+        const std::size_t i = step.index;
         const std::uint8_t t = path.types[i];
-        if (node::IsLineTo(t)) {
-            DrawNodeMark(device, p[i].x, p[i].y, Selected(t));
-        } else if (node::IsBezier(t)) {
-            if (i + 2 >= n) break;
+        switch (step.kind) {
+        case SegmentKind::Move:
+            if (!IsClosedFigure(path, i)) DrawHollowNodeMark(device, p[i].x, p[i].y);
+            DrawNodeMark(device, p[i].x, p[i].y, node::IsSelected(t));
+            break;
+        case SegmentKind::Line: DrawNodeMark(device, p[i].x, p[i].y, node::IsSelected(t)); break;
+        case SegmentKind::Bezier:
             if ((t & node::kShowHandles) != 0) {
                 DrawControlMark(device, p[i].x, p[i].y);
                 DrawControlMark(device, p[i + 1].x, p[i + 1].y);
-                if (i > 0) {
-                    device.MoveTo(p[i - 1].x, p[i - 1].y);
-                    device.LineTo(p[i].x, p[i].y);
-                }
+                device.MoveTo(p[i - 1].x, p[i - 1].y);
+                device.LineTo(p[i].x, p[i].y);
                 device.MoveTo(p[i + 1].x, p[i + 1].y);
                 device.LineTo(p[i + 2].x, p[i + 2].y);
             }
-            DrawNodeMark(device, p[i + 2].x, p[i + 2].y, Selected(path.types[i + 2]));
-            i += 2;
-        } else if (node::IsMoveTo(t)) {
-            if (!IsClosedFigure(path, i)) DrawHollowNodeMark(device, p[i].x, p[i].y);
-            DrawNodeMark(device, p[i].x, p[i].y, Selected(t));
+            DrawNodeMark(device, p[i + 2].x, p[i + 2].y, node::IsSelected(path.types[i + 2]));
+            break;
+        case SegmentKind::Close: break;
         }
     }
 }

@@ -1,8 +1,9 @@
 // The screen and device drawing of paths.
-#include "model/Document.h"
+#include "geometry/Isometric.h"
 #include "model/PathObject.h"
 #include "render/DeviceCache.h"
 #include "render/DevicePath.h"
+#include "render/DrawContext.h"
 #include "render/NodeMarks.h"
 #include "render/DrawFlags.h"
 
@@ -32,7 +33,8 @@ GdiHandle CreateScreenPen(Device& device, const PathObject& path, double zoom) {
 
 } // namespace
 
-void PathObject::DrawEdit(Device& device, const Matrix2D& view, unsigned flags) {
+void PathObject::DrawEdit(Device& device, const DrawContext& context, unsigned flags) {
+    const Matrix2D& view = context.view;
     if (NodeCount() == 0) return;
     DevicePath& path = ScratchPath();
 
@@ -70,7 +72,7 @@ void PathObject::DrawEdit(Device& device, const Matrix2D& view, unsigned flags) 
     } else if (outline) {
         penHandle = device.CreatePen(gdi::kPsSolid, 1, selected ? kBlue : 0x000000);
     } else {
-        penHandle = CreateScreenPen(device, *this, GetOwner() ? GetOwner()->view.zoom : 0.0);
+        penHandle = CreateScreenPen(device, *this, context.zoom);
     }
     const GdiHandle oldBrush = device.SelectObject(device.GetStockObject(StockObject::NullBrush));
     const GdiHandle oldPen = device.SelectObject(penHandle);
@@ -90,12 +92,12 @@ void PathObject::DrawEdit(Device& device, const Matrix2D& view, unsigned flags) 
 
 void PathObject::Render(Device& device, const Matrix2D& view) {
     if (NodeCount() < 2) return;
+    const PathOutputMode mode = GetPathOutputMode();
     DevicePath& path = ScratchPath();
-    ConvertPath(*this, view, TypeRule::Device, path);
+    if (mode == PathOutputMode::PolyDraw) ConvertPath(*this, view, TypeRule::Device, path);
 
     const bool filled = HasFill();
     const bool stroked = HasStroke();
-    const PathOutputMode mode = GetPathOutputMode();
     DashDot dash{};
     GetDashDot(dash);
 
@@ -104,7 +106,7 @@ void PathObject::Render(Device& device, const Matrix2D& view) {
         if (mode == PathOutputMode::PolyDraw) {
             device.PolyDraw(path.points, path.types);
         } else {
-            EmitSegments(device, path);
+            EmitSegments(device, *this, view);
         }
         device.EndPath();
     };
@@ -136,7 +138,7 @@ void PathObject::Render(Device& device, const Matrix2D& view) {
         device.StrokePath();
         break;
     case PathOutputMode::ExplicitSegments:
-        EmitSegments(device, path);
+        EmitSegments(device, *this, view);
         break;
     }
 }

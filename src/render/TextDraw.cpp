@@ -44,9 +44,9 @@ int TextEscapement(const Matrix2D& transform) {
     return static_cast<int>(degrees * 10 + 0.5);
 }
 
-void TextObject::DrawEdit(Device& device, const Matrix2D& view, unsigned flags) {
+void TextObject::DrawEdit(Device& device, const DrawContext& context, unsigned flags) {
     RefreshOutline();
-    outline_.DrawEdit(device, view, flags);
+    outline_.DrawEdit(device, context, flags);
 }
 
 void TextObject::Render(Device& device, const Matrix2D& view) {

@@ -3,7 +3,9 @@
 #include "model/Combine.h"
 #include "model/Document.h"
 #include "model/Hotspot.h"
+#include "model/PathFigures.h"
 #include "model/PathNodes.h"
+#include "model/PathReduction.h"
 #include "model/PathObject.h"
 #include "model/PathSegments.h"
 #include "text/TextToPath.h"
@@ -77,7 +79,7 @@ void RunNodeEntry(Document& document, CanvasHost& host, int id, int x, int y, Po
     const long a = NextSelectedNode(*path, 0);
     const long b = a >= 0 ? NextSelectedNode(*path, static_cast<std::size_t>(a) + 1) : -1;
     switch (id) {
-    case kNodeAdd: AddNodeAt(*path, world, AddNodeTolerance(*path)); break;
+    case kNodeAdd: AddNodeAt(*path, world, AddNodeTolerance(document.view.zoom)); break;
     case kNodeJoinLine:
     case kNodeJoinIntersection:
         if (a < 0 || b < 0) break;

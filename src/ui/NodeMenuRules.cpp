@@ -1,31 +1,21 @@
 #include "ui/NodeMenuRules.h"
 
-#include "model/PathNodes.h"
+#include "model/PathFigures.h"
 #include "model/PathObject.h"
+#include "model/PathSegments.h"
 
 namespace rhomba {
 
-namespace {
-
-bool Selected(NodeType t) { return (t & node::kSelected) != 0; }
-
-} // namespace
-
 bool SplitRule(const PathObject& path) {
     const auto& types = path.Types();
-    const std::size_t n = types.size();
-    for (std::size_t i = 0; i < n; ++i) {
-        std::size_t end = i;
-        if (node::IsBezier(types[i])) {
-            end = i + 2;
-            i += 2;
-            if (end >= n) break;
-        } else if (!node::IsLineTo(types[i])) {
-            continue;
-        }
-        if (!Selected(types[end])) continue;
-        if ((types[end] & node::kCloseFigure) != 0) return true;
-        if (end + 1 < n && !node::IsMoveTo(types[end + 1])) return true;
+    NodeCursor nodes(types);
+    NodeSpan step;
+    while (nodes.Next(step)) {
+        if (step.kind != SegmentKind::Line && step.kind != SegmentKind::Bezier) continue;
+        const std::size_t end = step.EndIndex();
+        if (!node::IsSelected(types[end])) continue;
+        if (step.closes) return true;
+        if (end + 1 < types.size() && !node::IsMoveTo(types[end + 1])) return true;
     }
     return false;
 }
@@ -34,26 +24,19 @@ namespace {
 
 // The to-curve and to-line rules: exactly one selected segment end of the wanted kind, none of
 // the other kind, and no selected move whose figure's last node is unselected.
-bool SingleSelectedSegmentRule(const PathObject& path, NodeType wanted) {
+bool SingleSelectedSegmentRule(const PathObject& path, SegmentKind wanted) {
     const auto& types = path.Types();
-    const std::size_t n = types.size();
     int found = 0;
-    for (std::size_t i = 0; i < n; ++i) {
-        std::size_t end = i;
-        const NodeType kind = types[i] & node::kKindMask;
-        if (kind == node::kBezierTo) {
-            end = i + 2;
-            i += 2;
-            if (end >= n) break;
-        }
-        if (!Selected(types[end])) continue;
-        if (kind == node::kMoveTo) {
-            if (!Selected(types[FigureOf(path, end).last])) return false;
-            continue;
-        }
-        if (kind == wanted) {
+    NodeCursor nodes(types);
+    NodeSpan step;
+    while (nodes.Next(step)) {
+        const std::size_t end = step.EndIndex();
+        if (step.kind == SegmentKind::Close || !node::IsSelected(types[end])) continue;
+        if (step.kind == SegmentKind::Move) {
+            if (!node::IsSelected(types[FigureOf(path, end).last])) return false;
+        } else if (step.kind == wanted) {
             ++found;
-        } else if (kind == node::kLineTo || kind == node::kBezierTo) {
+        } else {
             return false;
         }
     }
@@ -62,8 +45,12 @@ bool SingleSelectedSegmentRule(const PathObject& path, NodeType wanted) {
 
 } // namespace
 
-bool ToCurveRule(const PathObject& path) { return SingleSelectedSegmentRule(path, node::kLineTo); }
-bool ToLineRule(const PathObject& path) { return SingleSelectedSegmentRule(path, node::kBezierTo); }
+bool ToCurveRule(const PathObject& path) {
+    return SingleSelectedSegmentRule(path, SegmentKind::Line);
+}
+bool ToLineRule(const PathObject& path) {
+    return SingleSelectedSegmentRule(path, SegmentKind::Bezier);
+}
 
 NodeMenuState NodeMenuRules(const GraphicObject* first) {
     const PathObject* path = first != nullptr && first->GetKind() == ObjectKind::Path

@@ -1,6 +1,7 @@
 #include "ui/PropertyCommands.h"
 
 #include "geometry/NumberText.h"
+#include "model/Colour.h"
 #include "model/Document.h"
 #include "model/TextObject.h"
 
@@ -26,21 +27,6 @@ double Number(std::string_view& text) {
     return value;
 }
 
-ColorRef Colour(std::string_view text) {
-    text = Trim(text);
-    std::uint32_t rgb = 0;
-    for (char c : text) {
-        unsigned digit;
-        if (c >= '0' && c <= '9') digit = static_cast<unsigned>(c - '0');
-        else if (c >= 'a' && c <= 'f') digit = static_cast<unsigned>(c - 'a' + 10);
-        else if (c >= 'A' && c <= 'F') digit = static_cast<unsigned>(c - 'A' + 10);
-        else break;
-        rgb = ((rgb << 4) | digit) & 0xFFFFFFF;
-    }
-    rgb &= kColourMask;
-    return ((rgb & 0xFF) << 16) | (rgb & 0xFF00) | ((rgb >> 16) & 0xFF);
-}
-
 bool Switch(std::string_view text) { return Number(text) != 0; }
 
 void ExecuteLine(GraphicObject& object, std::string_view line) {
@@ -55,11 +41,11 @@ void ExecuteLine(GraphicObject& object, std::string_view line) {
     if (command == "SetName") {
         object.SetName(std::string(argument));
     } else if (command == "SetStrokeColor") {
-        object.SetStrokeColor(Colour(argument));
+        object.SetStrokeColor(ReadHexColour(Trim(argument)));
     } else if (command == "SetStroke") {
         object.SetStroke(Switch(argument));
     } else if (command == "SetFillColor") {
-        object.SetFillColor(Colour(argument));
+        object.SetFillColor(ReadHexColour(Trim(argument)));
     } else if (command == "SetFill") {
         object.SetFill(Switch(argument));
     } else if (command == "SetPenWidth") {

@@ -1,4 +1,6 @@
+#include "model/PathFigures.h"
 #include "model/PathNodes.h"
+#include "model/PathReduction.h"
 
 #include "geometry/Bezier.h"
 #include "model/PathGeometry.h"

@@ -1,5 +1,6 @@
 #include "model/Document.h"
 #include "model/Hotspot.h"
+#include "render/DrawContext.h"
 #include "render/DrawFlags.h"
 #include "render/NodeMarks.h"
 #include "support/RenderTest.h"
@@ -10,12 +11,9 @@ namespace {
 class ScreenDraw : public RenderTest {};
 
 TEST_F(ScreenDraw, FillThenOwnPenAtTheZoomedWidth) {
-    Document document;
-    document.view.zoom = 2;
-    auto* path = static_cast<PathObject*>(document.AddObject(Square(0, 0, 10)));
-    path->SetSelected(false);
+    auto path = Square(0, 0, 10);
     path->SetPenWidth(1);  // 1 x 1.7639 x 2 = 3.53 pixels
-    path->DrawEdit(device, Matrix2D{}, 0);
+    path->DrawEdit(device, {Matrix2D{}, 2}, 0);
     EXPECT_EQ(device.Calls(),
               (Calls{"CreateSolidBrush 0xAAAAAA -> brush1", "SelectObject brush1",
                      "SelectObject NULL_PEN", "BeginPath",
@@ -31,7 +29,7 @@ TEST_F(ScreenDraw, SelectedPathGetsAThinBlueOverdraw) {
     auto path = Square(0, 0, 10);
     path->SetFill(false);
     path->SetSelected(true);
-    path->DrawEdit(device, Matrix2D{}, 0);
+    path->DrawEdit(device, {}, 0);
     EXPECT_EQ(device.CallsNamed("CreatePen"),
               (Calls{"CreatePen 0 0 0x000000 -> pen1", "CreatePen 0 1 0xFF0000 -> pen2"}));
     EXPECT_EQ(device.CountNamed("PolyDraw"), 2u);
@@ -40,14 +38,11 @@ TEST_F(ScreenDraw, SelectedPathGetsAThinBlueOverdraw) {
 }
 
 TEST_F(ScreenDraw, DashedScreenPenFollowsTheZoom) {
-    Document document;
-    document.view.zoom = 1;
-    auto* path = static_cast<PathObject*>(document.AddObject(Square(0, 0, 10)));
+    auto path = Square(0, 0, 10);
     path->SetFill(false);
-    path->SetSelected(false);
     path->SetPenWidth(1);
     path->SetDashDot({1, 1, 0, 0, 0, 0, 0, 0});
-    path->DrawEdit(device, Matrix2D{}, 0);
+    path->DrawEdit(device, {Matrix2D{}, 1}, 0);
     EXPECT_EQ(device.CallsNamed("ExtCreatePen"),
               (Calls{"ExtCreatePen 0x10007 2 0x000000 [2,2] -> pen1"}));
 }
@@ -55,13 +50,13 @@ TEST_F(ScreenDraw, DashedScreenPenFollowsTheZoom) {
 TEST_F(ScreenDraw, OutlineViewDrawsThinLinesWithoutFill) {
     auto plain = Square(0, 0, 10);
     plain->SetStroke(false);
-    plain->DrawEdit(device, Matrix2D{}, kDrawOutline);
+    plain->DrawEdit(device, {}, kDrawOutline);
     EXPECT_EQ(device.CountNamed("FillPath"), 0u);
     EXPECT_EQ(device.CallsNamed("CreatePen"), (Calls{"CreatePen 0 1 0x000000 -> pen1"}));
 
     device.ClearCalls();
     plain->SetSelected(true);
-    plain->DrawEdit(device, Matrix2D{}, kDrawOutline);
+    plain->DrawEdit(device, {}, kDrawOutline);
     // Blue and only once: the overdraw belongs to the normal view.
     EXPECT_EQ(device.CallsNamed("CreatePen"), (Calls{"CreatePen 0 1 0xFF0000 -> pen2"}));
     EXPECT_EQ(device.CountNamed("PolyDraw"), 1u);
@@ -71,20 +66,20 @@ TEST_F(ScreenDraw, HighlightFillsBlackInOutlineViewAndMarksTheSelection) {
     auto path = Square(0, 0, 10);
     path->SetFill(false);
     path->SetStroke(false);
-    path->DrawEdit(device, Matrix2D{}, kDrawOutline | kDrawHighlight);
+    path->DrawEdit(device, {}, kDrawOutline | kDrawHighlight);
     EXPECT_EQ(Names(device.Calls()).front(), "SelectObject");
     EXPECT_EQ(device.Calls().front(), "SelectObject BLACK_BRUSH");
     EXPECT_EQ(device.CountNamed("FillPath"), 1u);
 
     device.ClearCalls();
     path->SetSelected(true);
-    path->DrawEdit(device, Matrix2D{}, kDrawHighlight);
+    path->DrawEdit(device, {}, kDrawHighlight);
     EXPECT_EQ(device.CountNamed("FillPath"), 0u);
     EXPECT_EQ(device.CallsNamed("CreatePen").front(), "CreatePen 0 1 0xFF0000 -> pen2");
 
     device.ClearCalls();
     path->SetSelected(false);
-    path->DrawEdit(device, Matrix2D{}, kDrawHighlight);
+    path->DrawEdit(device, {}, kDrawHighlight);
     EXPECT_TRUE(device.Calls().empty());
 }
 
@@ -93,7 +88,7 @@ TEST_F(ScreenDraw, TwoPointFillOnlyOnTheDevice) {
     path.SetStroke(false);
     path.AddNode({0, 0}, node::kMoveTo);
     path.AddNode({10, 10}, node::kLineTo);
-    path.DrawEdit(device, Matrix2D{}, 0);
+    path.DrawEdit(device, {}, 0);
     EXPECT_TRUE(device.Calls().empty());
     path.Render(device, Matrix2D{});
     EXPECT_EQ(device.CountNamed("FillPath"), 1u);
@@ -102,17 +97,17 @@ TEST_F(ScreenDraw, TwoPointFillOnlyOnTheDevice) {
 TEST_F(ScreenDraw, OnePointPathShowsOnlyItsNode) {
     PathObject path;
     path.AddNode({3, 4}, node::kMoveTo);
-    path.DrawEdit(device, Matrix2D{}, 0);
+    path.DrawEdit(device, {}, 0);
     EXPECT_EQ(device.CountNamed("PolyDraw"), 1u);
     device.ClearCalls();
-    path.DrawEdit(device, Matrix2D{}, kDrawNodesOnly);
+    path.DrawEdit(device, {}, kDrawNodesOnly);
     EXPECT_EQ(device.CallsNamed("Rectangle"), (Calls{"Rectangle -1 0 7 8", "Rectangle -1 0 7 8"}));
 }
 
 TEST_F(ScreenDraw, HotspotRectangleCornerByCorner) {
     Hotspot spot;
     spot.SetRect(0, 10, 20, 0);
-    spot.DrawEdit(device, Matrix2D{1, 0, 0, -1, 0.4, 100.6}, 0);
+    spot.DrawEdit(device, {Matrix2D{1, 0, 0, -1, 0.4, 100.6}}, 0);
     EXPECT_EQ(device.Calls(),
               (Calls{"CreatePen 0 1 0x8080FF -> pen1", "SelectObject pen1", "MoveTo 0 91",
                      "LineTo 20 91", "LineTo 20 101", "LineTo 0 101", "LineTo 0 91",
@@ -127,7 +122,7 @@ TEST_F(ScreenDraw, HiddenLayerSkippedOnScreenButRendered) {
     Document document;
     document.AddObject(Square(0, 0, 1));
     document.CurrentLayer().SetHidden(true);
-    document.DrawEdit(device, Matrix2D{}, 0);
+    document.DrawEdit(device, {}, 0);
     EXPECT_TRUE(device.Calls().empty());
     document.Render(device, Matrix2D{});
     EXPECT_EQ(device.CountNamed("StrokeAndFillPath"), 1u);
@@ -151,7 +146,7 @@ TEST_F(ScreenDraw, SelectedStartOfAClosedFigureShowsOnItsLastPoint) {
     auto owned = ClosedCurveFigure();
     PathObject& path = *owned;
     path.SetType(0, node::kMoveTo | node::kSelected);
-    path.DrawEdit(device, Matrix2D{}, kDrawNodesOnly);
+    path.DrawEdit(device, {}, kDrawNodesOnly);
     // One selected node: the curve that ends on the last point shows its two controls.
     EXPECT_EQ(device.CallsNamed("Ellipse"),
               (Calls{"Ellipse 96 46 104 54", "Ellipse 46 96 54 104"}));
@@ -171,14 +166,14 @@ TEST_F(ScreenDraw, HandlesOnlyForASingleSelectedNode) {
     path.AddNode({10, 0}, node::kBezierTo);
     path.AddNode({20, 0}, node::kBezierTo);
     path.AddNode({30, 0}, node::kBezierTo);
-    path.DrawEdit(device, Matrix2D{}, kDrawNodesOnly);
+    path.DrawEdit(device, {}, kDrawNodesOnly);
     // The open start is followed by a curve: its controls are shown with their lines.
     EXPECT_EQ(device.CountNamed("Ellipse"), 2u);
     EXPECT_EQ(device.CallsNamed("Rectangle").size(), 2u);  // hollow start, hollow end
 
     device.ClearCalls();
     path.SetType(3, node::kBezierTo | node::kSelected);
-    path.DrawEdit(device, Matrix2D{}, kDrawNodesOnly);
+    path.DrawEdit(device, {}, kDrawNodesOnly);
     EXPECT_EQ(device.CountNamed("Ellipse"), 0u);
 }
 

@@ -1,4 +1,5 @@
 #include "model/TextObject.h"
+#include "render/DrawContext.h"
 #include "render/DrawFlags.h"
 #include "render/TextDraw.h"
 #include "text/GlyphSource.h"
@@ -119,7 +120,7 @@ TEST_F(TextRender, ScreenDrawingGoesThroughTheOutline) {
     text.SetTextSize(20);  // the square becomes 10 points
     text.SetTextPosition(100, 100);
     text.SetSelected(true);
-    text.DrawEdit(device, Matrix2D{}, 0);
+    text.DrawEdit(device, {}, 0);
     InstallGlyphSource(nullptr);
     const Calls polys = device.CallsNamed("PolyDraw");
     // Only the fill: letters without stroke get no stroke pass, selected or not.
@@ -129,7 +130,7 @@ TEST_F(TextRender, ScreenDrawingGoesThroughTheOutline) {
     EXPECT_EQ(device.LiveObjects(), 0u);
 
     device.ClearCalls();
-    text.DrawEdit(device, Matrix2D{}, kDrawNodesOnly);
+    text.DrawEdit(device, {}, kDrawNodesOnly);
     EXPECT_GE(device.CountNamed("Rectangle"), 3u);
 }
 

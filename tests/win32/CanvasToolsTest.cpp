@@ -1,4 +1,5 @@
 // The tools on the real canvas window: a palette click, a drag that draws, the right-click menu.
+#include "geometry/Isometric.h"
 #include "support/Paths.h"
 #include "ui/CanvasMenus.h"
 #include "ui/resource.h"
@@ -42,7 +43,7 @@ TEST_F(CanvasTools, RectangleDrawnWithTheMouseAndTheObjectMenuOnIt) {
     ASSERT_EQ(Doc().Selection().size(), 1u);
     Rect2 box;
     ASSERT_TRUE(Doc().Selection()[0]->GetBounds(box, false));
-    const double pixelsPerPoint = Doc().view.zoom * ViewState::kScaleAtZoom1;
+    const double pixelsPerPoint = Doc().view.zoom * kScreenPixelsPerPoint;
     EXPECT_NEAR(box.right - box.left, 100 / pixelsPerPoint, 1e-9);
     EXPECT_NEAR(box.top - box.bottom, 50 / pixelsPerPoint, 1e-9);
 

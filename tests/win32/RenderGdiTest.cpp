@@ -3,6 +3,7 @@
 #include "model/Document.h"
 #include "model/PathObject.h"
 #include "render/DeviceCache.h"
+#include "render/DrawContext.h"
 #include "win32/GdiDevice.h"
 
 #include <gtest/gtest.h>
@@ -83,7 +84,7 @@ protected:
 TEST_F(RenderGdi, DrawEditFillsStrokesAndLeavesHiddenLayersOut) {
     Bitmap bitmap;
     GdiDevice device(bitmap.Dc());
-    document.DrawEdit(device, view, 0);
+    document.DrawEdit(device, {view, document.view.zoom}, 0);
     EXPECT_EQ(bitmap.At(50, 50), 0xFF0000u) << "fill inside";
     EXPECT_EQ(bitmap.At(20, 50), 0x000000u) << "stroke on the left edge";
     EXPECT_EQ(bitmap.At(50, 20), 0x000000u) << "stroke on the top edge";
@@ -113,7 +114,7 @@ TEST_F(RenderGdi, OffscreenCanvasCopiesInOneStep) {
     {
         OffscreenCanvas canvas(target.Dc(), kSize, kSize);
         GdiDevice device(canvas.Dc());
-        document.DrawEdit(device, view, 0);
+        document.DrawEdit(device, {view, document.view.zoom}, 0);
         EXPECT_EQ(target.At(50, 50), 0xFFFFFFu) << "nothing reaches the window before the copy";
         canvas.Present();
     }

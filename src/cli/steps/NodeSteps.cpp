@@ -3,7 +3,9 @@
 #include "geometry/NumberText.h"
 #include "model/Combine.h"
 #include "model/Document.h"
+#include "model/PathFigures.h"
 #include "model/PathNodes.h"
+#include "model/PathReduction.h"
 #include "model/PathObject.h"
 #include "model/Reporter.h"
 #include "ui/NodeMenuRules.h"
@@ -86,7 +88,7 @@ bool RunNode(StepContext& context, StepWords words) {
 
     if (op == "add") {
         if (!menu[kNodeAdd]) return Grayed(context, op);
-        AddNodeAt(*path, {x, y}, AddNodeTolerance(*path));
+        AddNodeAt(*path, {x, y}, AddNodeTolerance(context.document.view.zoom));
     } else if (op == "join-line") {
         if (!menu[kNodeJoinLine]) return Grayed(context, op);
         JoinWithLine(*path, static_cast<std::size_t>(a), static_cast<std::size_t>(b));

@@ -3,6 +3,7 @@
 #include "model/Document.h"
 #include "render/Device.h"
 #include "render/DevicePath.h"
+#include "render/DrawContext.h"
 #include "render/DrawFlags.h"
 
 #include <algorithm>
@@ -144,7 +145,7 @@ void PlanePreview::Paint(Device& device, int width, int height,
 
     DrawAxes(device, view_, origin, ends, labelPixels);
     for (const auto& path : mapped_)
-        path->DrawEdit(device, view_, kDrawOutline);
+        path->DrawEdit(device, {view_}, kDrawOutline);
 }
 
 } // namespace rhomba

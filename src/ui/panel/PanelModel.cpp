@@ -1,6 +1,7 @@
 #include "ui/panel/PanelModel.h"
 
 #include "geometry/NumberText.h"
+#include "model/Colour.h"
 #include "model/Document.h"
 #include "model/PointList.h"
 #include "model/TextObject.h"
@@ -117,9 +118,9 @@ std::string DashCommand(const std::array<std::string, 8>& typed) {
 }
 
 std::string ColourCommand(bool fill, ColorRef colour) {
-    const unsigned rgb = ((colour & 0xFF) << 16) | (colour & 0xFF00) | ((colour >> 16) & 0xFF);
     char line[32];
-    std::snprintf(line, sizeof line, "%s %06X", fill ? "SetFillColor" : "SetStrokeColor", rgb);
+    std::snprintf(line, sizeof line, "%s %06X", fill ? "SetFillColor" : "SetStrokeColor",
+                  static_cast<unsigned>(SwapRedBlue(colour)));
     return line;
 }
 
@@ -211,15 +212,8 @@ void PanelModel::FillPointList() {
     if (path == nullptr) return;
     DialogFields& page = Page(kPagePoints);
     const bool whole = path->NodeCount() <= kListedNodes;
-    std::string list;
-    if (whole) {
-        list = FormatPointList(*path);
-    } else {
-        PathObject head;
-        head.ReserveNodes(kListedNodes);
-        for (std::size_t i = 0; i < kListedNodes; ++i) head.AddNode(path->PointAt(i), path->TypeAt(i));
-        list = FormatPointList(head) + "...\r\n";
-    }
+    std::string list = FormatPointList(*path, kListedNodes);
+    if (!whole) list += "...\r\n";
     ++writing_;
     Put(page, IDC_PANEL_POINTS, list);
     PutEnabled(page, IDC_PANEL_POINTS, whole);

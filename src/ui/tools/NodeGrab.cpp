@@ -1,6 +1,6 @@
 #include "ui/tools/NodeGrab.h"
 
-#include "model/PathNodes.h"
+#include "model/PathFigures.h"
 #include "model/PathSegments.h"
 
 #include <algorithm>
