@@ -129,6 +129,11 @@ TEST_F(RightClick, ChosenEntriesActOnTheDrawing) {
 
     Choose(kToolNode, kNodeToCurve); // grayed: nothing happens
     EXPECT_EQ(a->NodeCount(), 5u);
+    // "Verbinden mit Linie" on the two ends of an open figure closes it with a line.
+    PathObject* open = Add(document, NodePath({{{0, 20}, node::kMoveTo | node::kSelected}, {{10, 20}, node::kLineTo},
+                                                {{10, 30}, node::kLineTo | node::kSelected}}));
+    Choose(kToolNode, kNodeJoinLine);
+    EXPECT_EQ(open->NodeCount(), 4u);
     Document empty;
     EXPECT_FALSE(AddHotspotAtSelection(empty));
     EXPECT_TRUE(AddHotspotAtSelection(document));

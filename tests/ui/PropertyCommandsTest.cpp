@@ -1,32 +1,22 @@
 #include "ui/PropertyCommands.h"
 
-#include "model/Document.h"
 #include "model/Hotspot.h"
-#include "model/PathObject.h"
 #include "model/TextObject.h"
+#include "support/Paths.h"
 
-#include <gtest/gtest.h>
-
-namespace rhomba {
+namespace rhomba::test {
 namespace {
 
-std::unique_ptr<PathObject> Line() {
-    auto path = std::make_unique<PathObject>();
-    path->AddNode({0, 0}, node::kMoveTo);
-    path->AddNode({1, 1}, node::kLineTo);
-    return path;
-}
-
+// With descend, the style commands reach the selected objects inside selected groups; without,
+// the group itself gets them and ignores them. A given group takes the place of the selection.
 TEST(PropertyCommands, StyleCommandsReachSelectedObjectsInsideSelectedGroups) {
     Document doc;
     auto group = std::make_unique<Group>();
-    GraphicObject* inner = group->InsertAt(Line(), &doc, 0, 0);
-    GraphicObject* grouped = doc.AddObject(std::move(group));
-    GraphicObject* loose = doc.AddObject(Line());
-    GraphicObject* untouched = doc.AddObject(Line());
-    doc.ClearSelection();
-    doc.AddToSelection(grouped);
-    doc.AddToSelection(loose);
+    GraphicObject* inner = group->InsertAt(Polyline({{0, 0}, {1, 1}}), &doc, 0, 0);
+    auto* grouped = static_cast<Group*>(doc.AddObject(std::move(group)));
+    GraphicObject* loose = Add(doc, Polyline({{0, 0}, {1, 1}}));
+    GraphicObject* untouched = Add(doc, Polyline({{0, 0}, {1, 1}}));
+    doc.ChangeSelection({grouped, loose}, SelectionChange::Replace);
 
     ApplyCommand(doc, "SetPenWidth 0.5", true, nullptr);
     ApplyCommand(doc, "SetStrokeColor 19aB3f\r\nSetFillColor 0000FF\nSetFill 0", true, nullptr);
@@ -41,26 +31,17 @@ TEST(PropertyCommands, StyleCommandsReachSelectedObjectsInsideSelectedGroups) {
         EXPECT_EQ(dash, (DashDot{3, 1, 255, 2, 0, 0, 0, 0}));
     }
     EXPECT_EQ(untouched->GetPenWidth(), PathObject::kDefaultPenWidth);
-    // Without descend the group itself gets the line, which a group ignores.
     ApplyCommand(doc, "SetPenWidth 2", false, nullptr);
     EXPECT_EQ(inner->GetPenWidth(), 0.5);
     EXPECT_EQ(loose->GetPenWidth(), 2);
-}
-
-TEST(PropertyCommands, GivenGroupTakesThePlaceOfTheSelection) {
-    Document doc;
-    auto group = std::make_unique<Group>();
-    GraphicObject* inner = group->InsertAt(Line(), &doc, 0, 0);
-    Group* target = static_cast<Group*>(doc.AddObject(std::move(group)));
-    GraphicObject* selected = doc.AddObject(Line());
-    ApplyCommand(doc, "SetStroke 0", true, target);
+    ApplyCommand(doc, "SetStroke 0", true, grouped);
     EXPECT_FALSE(inner->HasStroke());
-    EXPECT_TRUE(selected->HasStroke());
+    EXPECT_TRUE(loose->HasStroke());
 }
 
 TEST(PropertyCommands, TextCommandsAndNamesAndBadNumbers) {
     Document doc;
-    auto* text = static_cast<TextObject*>(doc.AddObject(std::make_unique<TextObject>()));
+    auto* text = Add(doc, std::make_unique<TextObject>());
     ApplyCommand(doc, "SetText  zwei Blanks vorn", true, nullptr);
     ApplyCommand(doc, "SetTextSize 14.5\nSetTextFont Times New Roman\nSetTextStyle 3", true, nullptr);
     ApplyCommand(doc, "SetTextPosition 10 -20\nSetName a_b_c\nSetPenWidth abc", true, nullptr);
@@ -77,4 +58,4 @@ TEST(PropertyCommands, TextCommandsAndNamesAndBadNumbers) {
 }
 
 } // namespace
-} // namespace rhomba
+} // namespace rhomba::test

@@ -117,7 +117,8 @@ TEST_F(Tools, HandleDragsScaleMirrorAndMove) {
     };
     using enum CanvasCursor;
     const Case cases[] = {
-        {"corner: smaller factor", false, {200, 500}, {300, 550}, SizeNwSe, {100, 200, 250, 50}},
+        {"corner, 3 pixels off: smaller factor", false, {203, 503}, {300, 550}, SizeNwSe, {100, 200, 250, 50}},
+        {"equal factors: the horizontal one", false, {100, 500}, {300, 500}, SizeNeSw, {200, 300, 300, 200}},
         {"edge: its own axis", false, {150, 400}, {180, 350}, SizeNs, {100, 250, 200, 100}},
         {"across the fixed side", false, {200, 450}, {50, 450}, SizeWe, {50, 200, 100, 100}},
         {"inside: moved", false, {150, 450}, {170, 430}, SizeAll, {120, 220, 220, 120}},
@@ -138,6 +139,11 @@ TEST_F(Tools, HandleDragsScaleMirrorAndMove) {
     }
     tools.MouseMove(300, 300, 0);
     EXPECT_EQ(host.cursor, Arrow);
+    // A box reaching beyond the 32-bit client range is drawn to the range's end.
+    Add(document, Polyline({{-2e9, 100}, {200, 200}}));
+    tools.MouseDown(200, 450, kKeyLeftButton);
+    tools.MouseMove(250, 450, kKeyLeftButton);
+    EXPECT_EQ(host.Visible().front().substr(0, 21), "Rectangle -1000000000");
 }
 
 TEST_F(Tools, ScrollToolMovesTheViewByThePointer) {

@@ -55,7 +55,8 @@ std::string Opened(const std::vector<int>& ids, const Steps& steps, Document& do
     FieldDialog<Model> d(memory);
     const std::string opened = Shown(d.fields, ids);
     Play(d, steps);
-    d.model.Ok(document);
+    Document empty; // nothing selected: OK closes the dialog all the same
+    EXPECT_EQ(d.model.Ok(empty), d.model.Ok(document));
     reopened = Shown(FieldDialog<Model>(memory).fields, ids);
     return opened;
 }
@@ -92,6 +93,8 @@ TEST(DialogModels, OpenTypeOkAndOpenAgain) {
         {Opened<Sh>, shear, {{Sh::kXDegrees, "89"}, {Sh::kYDegrees, "abc"}}, 4, {10 - 5 * tan80, 0},
          "0|0|0|0", "80|0|567,128|0"},
         {Opened<Sh>, shear, {{Sh::kYDegrees, "30"}}, 4, {10, 5 * tan30}, "", "0|30|0|57,735"},
+        {Opened<Sh>, shear, {{Sh::kXDegrees, "1"}}, 4, {10 - 5 * std::tan(1 / kDegreesPerRadian), 0}, "",
+         "1|0|1,74551|0"},
         // A unit is not read, and the distance is remembered unclamped.
         {Opened<M>, move, {{M::kX, "1 cm"}, {M::kY, "-0,125"}}, 4, {10 + mm, -0.125 * mm}, "0 mm|0 mm",
          "1 mm|-0,13 mm"},
@@ -208,7 +211,7 @@ TEST(DialogModels, OkEnabledOnlyForUsableShapes) {
         {polygon, "5", "0,5", false},  {polygon, "5", "1200", false}, {polygon, "5", "abc", false},
         {polygon, "5", "101 cm", false}, {polygon, "5", "1", true},    {polygon, "5", "1000", true},
         {polygon, "5", "0,1 m", true},  {polygon, "2", "10", false},   {polygon, "3", "10", true},
-        {polygon, "1000000", "10", false}, {spiral, "50", "0", false}, {spiral, "50", "0,01 mm", false},
+        {polygon, "1000000", "10", false}, {polygon, "1000", "10", true}, {spiral, "50", "0", false}, {spiral, "50", "0,01 mm", false},
         {spiral, "50", "1 cm", true},   {spiral, "2 m", "1 cm", false}, {spiral, "3 cm", "1 cm", true},
         {spiral, "1000", "1", true}, // a thousand turns
     };
@@ -261,18 +264,20 @@ TEST(DialogModels, PlaneAxesDifferAndEveryChangeRedrawsThePreview) {
     // Choosing the second axis as first moves the second one to a free axis.
     d.Click(Pl::kFirstAxes, 3, kAxisY);
     EXPECT_EQ(enabled(), "x-o");
+    d.Click(Pl::kFirstAxes, 3, kAxisX);
+    EXPECT_EQ(enabled(), "-xo");
     d.Type(Pl::kFirstAngle, "15");
     d.Click(Pl::kPlanes, 4, kPlaneZX);
     d.Check(Pl::kForeshorten, true);
     d.model.OnCommand(Pl::kPreview, kButtonClicked); // its own paint asks for nothing
-    EXPECT_EQ(d.fields.invalidations[Pl::kPreview], opened + 5);
+    EXPECT_EQ(d.fields.invalidations[Pl::kPreview], opened + 6);
 
     // OK turns as the rotation itself does with the values shown.
     Document document, direct;
     PathObject* path = Add(document, Polyline({{0, 0}, {40, 20}}));
     PathObject* expected = Add(direct, Polyline({{0, 0}, {40, 20}}));
     d.model.Ok(document);
-    RotateSelectionInPlane(direct, {{}, kPlaneZX, kAxisY, 15, kAxisX, 0, true});
+    RotateSelectionInPlane(direct, {{}, kPlaneZX, kAxisX, 15, kAxisY, 0, true});
     EXPECT_EQ(path->Points(), expected->Points());
     EXPECT_EQ(ReducePlaneAngle(-370), -10);
 }

@@ -83,6 +83,14 @@ TEST(PlanePreview, AxesReachAsFarAsTheSelectionsLargerSide) {
     preview.Paint(device, kWidth, kHeight, {{}, kPlaneZY, kAxisY, 30, kAxisZ, -45, false});
     EXPECT_EQ(device.CallsNamed("LineTo"),
               (std::vector<std::string>{"LineTo 156 90", "LineTo 114 17", "LineTo 71 90"}));
+    EXPECT_EQ(device.CallsNamed("TextOutW"),
+              (std::vector<std::string>{"TextOutW 163 98 'X'", "TextOutW 114 13 'Y'", "TextOutW 64 98 'Z'"}));
+    // Paths inside selected groups are shown too.
+    auto group = std::make_unique<Group>();
+    group->InsertAt(test::Square(0, 0, 10), &document, 0, 0);
+    group->InsertAt(test::Square(20, 0, 10), &document, 0, 0);
+    test::Add(document, std::move(group));
+    EXPECT_EQ(PlanePreview(document).NodeCount(), 8u);
 }
 
 // Selections without size or with points beyond measure still show the axes inside the field.

@@ -93,56 +93,42 @@ struct Panel {
     }
 };
 
-// A selected group holding a path, and a loose selected path with a thicker blue stroke.
-struct GroupAndPath {
+// A selected group holding a path, and a loose selected path with a thicker blue stroke: the
+// group's first path speaks for the selection. Fields send when left after a change, the colour
+// chooser's answer at once.
+TEST(PanelModel, StyleFieldsAndColoursReachObjectsInsideSelectedGroups) {
     Document doc;
-    PathObject* inner;
-    PathObject* loose;
-    GroupAndPath() {
-        auto group = std::make_unique<Group>();
-        inner = static_cast<PathObject*>(group->InsertAt(Square(0, 0, 10), &doc, 0, 0));
-        GraphicObject* grouped = doc.AddObject(std::move(group));
-        loose = Add(doc, Square(20, 0, 10));
-        loose->SetPenWidth(3);
-        loose->SetStrokeColor(0xFF0000);
-        doc.ClearSelection();
-        doc.AddToSelection(grouped);
-        doc.AddToSelection(loose);
-    }
-};
-
-TEST(PanelModel, StyleFieldsSendOnlyWhenLeftAfterAChange) {
-    GroupAndPath drawing;
-    Panel panel(drawing.doc);
-    // The first selected object is the group: its first path speaks for it.
+    auto group = std::make_unique<Group>();
+    auto* inner = static_cast<PathObject*>(group->InsertAt(Square(0, 0, 10), &doc, 0, 0));
+    GraphicObject* grouped = doc.AddObject(std::move(group));
+    auto* loose = Add(doc, Square(20, 0, 10));
+    loose->SetPenWidth(3);
+    loose->SetStrokeColor(0xFF0000);
+    doc.ChangeSelection({grouped, loose}, SelectionChange::Replace);
+    Panel panel(doc);
     EXPECT_EQ(panel.Text(kPageStyle, IDC_PANEL_PEN_WIDTH), "0,25");
     EXPECT_EQ(panel.model.Colour(PanelModel::kStrokeButton), 0u);
 
     panel.Leave(kPageStyle, IDC_PANEL_PEN_WIDTH); // passing through sends nothing
-    EXPECT_EQ(drawing.loose->GetPenWidth(), 3);
+    EXPECT_EQ(loose->GetPenWidth(), 3);
     panel.Type(kPageStyle, IDC_PANEL_DASH_FIRST + 2, "300");
     panel.Leave(kPageStyle, IDC_PANEL_DASH_FIRST + 1);
-    EXPECT_EQ(drawing.loose->GetDashCount(), 0); // another field left: nothing sent
+    EXPECT_EQ(loose->GetDashCount(), 0); // another field left: nothing sent
     panel.Leave(kPageStyle, IDC_PANEL_DASH_FIRST + 2);
     DashDot dash{};
-    drawing.inner->GetDashDot(dash);
+    inner->GetDashDot(dash);
     EXPECT_EQ(dash, (DashDot{0, 0, 255, 0, 0, 0, 0, 0}));
     EXPECT_EQ(panel.Text(kPageStyle, IDC_PANEL_DASH_FIRST + 2), "255");
     EXPECT_EQ(panel.redraws, 1);
-}
 
-TEST(PanelModel, ColourChooserAnswers) {
-    GroupAndPath drawing;
-    Panel panel(drawing.doc);
     panel.model.ColourChosen(PanelModel::kStrokeButton, std::nullopt);
-    EXPECT_EQ(panel.redraws, 1); // cancelled: a redraw, nothing else
-    EXPECT_EQ(drawing.loose->GetStrokeColor(), 0xFF0000u);
-
+    EXPECT_EQ(panel.redraws, 2); // cancelled: a redraw, nothing else
+    EXPECT_EQ(loose->GetStrokeColor(), 0xFF0000u);
     panel.model.ColourChosen(PanelModel::kFillButton, 0x00FF80);
     EXPECT_EQ(panel.model.Colour(PanelModel::kFillButton), 0x00FF80u);
     EXPECT_EQ(panel.fields[kPageStyle].invalidations[IDC_PANEL_FILL_COLOUR], 2); // refresh, choice
-    EXPECT_EQ(drawing.inner->GetFillColor(), 0x00FF80u);
-    EXPECT_EQ(drawing.loose->GetFillColor(), 0x00FF80u);
+    EXPECT_EQ(inner->GetFillColor(), 0x00FF80u);
+    EXPECT_EQ(loose->GetFillColor(), 0x00FF80u);
 }
 
 TEST(PanelModel, LongPathIsListedCutShortAndCannotBeTypedBack) {
@@ -157,6 +143,27 @@ TEST(PanelModel, LongPathIsListedCutShortAndCannotBeTypedBack) {
     const std::string cut = panel.Text(kPagePoints, IDC_PANEL_POINTS);
     EXPECT_EQ(cut.substr(cut.size() - 12), "L 0 0\r\n...\r\n");
     EXPECT_FALSE(panel.fields[kPagePoints].IsEnabled(IDC_PANEL_POINTS));
+}
+
+// The coordinate list says "ge\xE4ndert" while typed, "OK" once applied on leaving, "Fehler" for
+// a list that is no path; a hotspot's name is applied as typed.
+TEST(PanelModel, CoordinateListAndHotspotName) {
+    Document doc;
+    auto* path = Add(doc, Square(0, 0, 10));
+    Panel panel(doc);
+    EXPECT_EQ(panel.Text(kPagePoints, IDC_PANEL_POINTS_STATE), "-");
+    for (const auto& [list, state] : {std::pair{"M 0 0\r\nL 5 0\r\nL 5,5 5 Z", "OK"}, {"M 0 0\r\nB 1 1", "Fehler"}}) {
+        panel.Type(kPagePoints, IDC_PANEL_POINTS, list);
+        EXPECT_EQ(panel.Text(kPagePoints, IDC_PANEL_POINTS_STATE), "ge\xE4ndert");
+        panel.Leave(kPagePoints, IDC_PANEL_POINTS);
+        EXPECT_EQ(panel.Text(kPagePoints, IDC_PANEL_POINTS_STATE), state);
+        EXPECT_EQ(path->NodeCount(), 3u);
+    }
+    EXPECT_EQ(panel.redraws, 1);
+    auto* hotspot = Add(doc, std::make_unique<Hotspot>());
+    panel.Refresh();
+    panel.Type(kPageHotspot, IDC_PANEL_HOTSPOT_NAME, "a b\tc");
+    EXPECT_EQ(hotspot->GetName(), "a_b_c");
 }
 
 TEST(PanelModel, FontPageAndTextPage) {
