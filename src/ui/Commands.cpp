@@ -5,8 +5,8 @@
 #include "format/Clipboard.h"
 #include "format/NativeReader.h"
 #include "text/TextToPath.h"
+#include "ui/DocumentCommands.h"
 #include "ui/CanvasMenus.h"
-#include "transform/IsoProjection.h"
 #include "ui/Editor.h"
 #include "ui/ShellHost.h"
 #include "ui/dialogs/AffineDialogs.h"
@@ -88,12 +88,15 @@ void SelectionDialog(Editor& editor, int templateId) {
 // With the node tool the selected nodes, otherwise the selected objects.
 void Delete(Editor& editor) {
     if (ToolController* tools = editor.Tools()) return tools->DeleteSelection();
-    editor.document.DeleteSelection();
+    RunDocumentCommand(editor.document, IDM_DELETE);
 }
 
 void TextToPath(Editor& editor) {
-    if (CanvasHost* canvas = editor.Canvas()) return static_cast<void>(ConvertTextsToPaths(editor.document, *canvas));
-    ConvertSelectedTextsToPaths(editor.document);
+    if (CanvasHost* canvas = editor.Canvas()) {
+        ConvertTextsToPaths(editor.document, *canvas);
+        return;
+    }
+    RunDocumentCommand(editor.document, IDM_TEXT_TO_PATH);
 }
 
 void ToggleDraft(Editor& editor) {
@@ -113,6 +116,7 @@ void ToggleProperties(Editor& editor) {
 struct Command {
     int id;
     bool redraw;
+    // Null: a command of the drawing alone, run by RunDocumentCommand.
     void (*run)(Editor&);
     CommandEnabling enabling = CommandEnabling::Always;
 };
@@ -120,7 +124,7 @@ struct Command {
 constexpr auto kSelection = CommandEnabling::Selection;
 
 constexpr Command kCommands[] = {
-    {IDM_NEW, true, [](Editor& e) { e.document.Reset(); }},
+    {IDM_NEW, true, nullptr},
     {IDM_OPEN, true, Open},
     {IDM_IMPORT_QUENDA, true, Quenda},
     {IDM_SAVE, true, Save},
@@ -143,24 +147,24 @@ constexpr Command kCommands[] = {
      },
      kSelection},
     {IDM_DELETE, true, Delete, kSelection},
-    {IDM_ISO_LEFT, true, [](Editor& e) { ProjectSelection(e.document, kFaceLeft); }},
-    {IDM_ISO_RIGHT, true, [](Editor& e) { ProjectSelection(e.document, kFaceRight); }},
-    {IDM_ISO_TOP1, true, [](Editor& e) { ProjectSelection(e.document, kFaceTop1); }},
-    {IDM_ISO_TOP2, true, [](Editor& e) { ProjectSelection(e.document, kFaceTop2); }},
-    {IDM_ISO_BACK_LEFT, true, [](Editor& e) { ProjectSelection(e.document, kBackFromLeft); }},
-    {IDM_ISO_BACK_RIGHT, true, [](Editor& e) { ProjectSelection(e.document, kBackFromRight); }},
-    {IDM_ISO_BACK_TOP1, true, [](Editor& e) { ProjectSelection(e.document, kBackFromTop1); }},
-    {IDM_ISO_BACK_TOP2, true, [](Editor& e) { ProjectSelection(e.document, kBackFromTop2); }},
+    {IDM_ISO_LEFT, true, nullptr},
+    {IDM_ISO_RIGHT, true, nullptr},
+    {IDM_ISO_TOP1, true, nullptr},
+    {IDM_ISO_TOP2, true, nullptr},
+    {IDM_ISO_BACK_LEFT, true, nullptr},
+    {IDM_ISO_BACK_RIGHT, true, nullptr},
+    {IDM_ISO_BACK_TOP1, true, nullptr},
+    {IDM_ISO_BACK_TOP2, true, nullptr},
     {IDM_CYLINDER, true, [](Editor& e) { SelectionDialog<CylinderDialogModel>(e, IDD_CYLINDER); }},
     {IDM_PLANE, true, [](Editor& e) { SelectionDialog<PlaneDialogModel>(e, IDD_PLANE); }},
     {IDM_ROTATE, true, [](Editor& e) { SelectionDialog<RotateDialogModel>(e, IDD_ROTATE); }, kSelection},
     {IDM_STRETCH, true, [](Editor& e) { SelectionDialog<StretchDialogModel>(e, IDD_STRETCH); }, kSelection},
     {IDM_SHEAR, true, [](Editor& e) { SelectionDialog<ShearDialogModel>(e, IDD_SHEAR); }, kSelection},
     {IDM_MOVE, true, [](Editor& e) { SelectionDialog<MoveDialogModel>(e, IDD_MOVE); }, kSelection},
-    {IDM_BACK_ONE, true, [](Editor& e) { e.document.Arrange(-1); }},
-    {IDM_BACK_ALL, true, [](Editor& e) { e.document.Arrange(-111); }},
-    {IDM_FORWARD_ONE, true, [](Editor& e) { e.document.Arrange(1); }},
-    {IDM_FORWARD_ALL, true, [](Editor& e) { e.document.Arrange(111); }},
+    {IDM_BACK_ONE, true, nullptr},
+    {IDM_BACK_ALL, true, nullptr},
+    {IDM_FORWARD_ONE, true, nullptr},
+    {IDM_FORWARD_ALL, true, nullptr},
     {IDM_POLYGON, true, [](Editor& e) { Dialog<PolygonDialogModel>(e, IDD_POLYGON); }},
     {IDM_CIRCLE, true, [](Editor& e) { Dialog<CircleDialogModel>(e, IDD_CIRCLE); }},
     {IDM_SINE, true, [](Editor& e) { Dialog<SineDialogModel>(e, IDD_SINE); }},
@@ -182,7 +186,11 @@ const Command* Find(int id) {
 bool RunCommand(Editor& editor, int id) {
     const Command* command = Find(id);
     if (command == nullptr) return false;
-    command->run(editor);
+    if (command->run != nullptr) {
+        command->run(editor);
+    } else {
+        RunDocumentCommand(editor.document, id);
+    }
     if (command->redraw) editor.host.Redraw();
     return true;
 }

@@ -6,7 +6,9 @@
 #include "geometry/NumberText.h"
 #include "model/Document.h"
 #include "model/Reporter.h"
+#include "ui/DocumentCommands.h"
 #include "ui/PropertyCommands.h"
+#include "ui/resource.h"
 
 #include <deque>
 #include <string>
@@ -76,17 +78,25 @@ bool RunUngroup(StepContext& context, StepWords) {
 }
 
 bool RunDelete(StepContext& context, StepWords) {
-    context.document.DeleteSelection();
-    return true;
+    return RunDocumentCommand(context.document, IDM_DELETE);
 }
 
 bool RunArrange(StepContext& context, StepWords words) {
-    long long step = 0;
-    if (words.size() != 1 || !ReadWhole(Trim(words[0]), step) || (step != -1 && step != -111 && step != 1 && step != 111)) {
-        return Tell(context, "arrange takes -1, -111, 1 or 111");
+    static const struct {
+        std::string_view word;
+        int command;
+    } kSteps[] = {
+        {"-1", IDM_BACK_ONE},
+        {"-111", IDM_BACK_ALL},
+        {"1", IDM_FORWARD_ONE},
+        {"111", IDM_FORWARD_ALL},
+    };
+    for (const auto& step : kSteps) {
+        if (words.size() == 1 && Trim(words[0]) == step.word) {
+            return RunDocumentCommand(context.document, step.command);
+        }
     }
-    context.document.Arrange(static_cast<int>(step));
-    return true;
+    return Tell(context, "arrange takes -1, -111, 1 or 111");
 }
 
 bool RunProp(StepContext& context, StepWords words) {
@@ -181,8 +191,7 @@ std::vector<std::string> SplitPaste(std::string_view rest) {
 }
 
 bool RunNew(StepContext& context, StepWords) {
-    context.document.Reset();
-    return true;
+    return RunDocumentCommand(context.document, IDM_NEW);
 }
 
 } // namespace

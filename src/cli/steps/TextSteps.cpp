@@ -1,7 +1,8 @@
 // The apply steps of the text commands.
 #include "cli/Step.h"
 #include "model/Reporter.h"
-#include "text/TextToPath.h"
+#include "ui/DocumentCommands.h"
+#include "ui/resource.h"
 
 #include <string>
 
@@ -14,8 +15,7 @@ bool RunTextToPath(StepContext& context, StepWords words) {
         context.reporter.Inform("rhomba-cli: text-to-path takes no words");
         return false;
     }
-    ConvertSelectedTextsToPaths(context.document);
-    return true;
+    return RunDocumentCommand(context.document, IDM_TEXT_TO_PATH);
 }
 
 } // namespace

@@ -2,29 +2,34 @@
 // go through the dialog models exactly as if typed into the fields before OK.
 #include "cli/steps/StepWords.h"
 #include "model/Document.h"
-#include "transform/IsoProjection.h"
+#include "ui/DocumentCommands.h"
 #include "ui/dialogs/AffineDialogs.h"
 #include "ui/dialogs/FieldDialog.h"
 #include "ui/dialogs/IsoSpaceDialogs.h"
+#include "ui/resource.h"
 
 namespace rhomba::cli {
 
 namespace {
 
+// The projections run by the editor's menu ids.
 bool RunIso(StepContext& context, StepWords words) {
     static const struct {
         std::string_view word;
-        int mode;
+        int command;
     } kModes[] = {
-        {"links", kFaceLeft},           {"rechts", kFaceRight},
-        {"oben1", kFaceTop1},           {"oben2", kFaceTop2},
-        {"zurueck-links", kBackFromLeft}, {"zurueck-rechts", kBackFromRight},
-        {"zurueck-oben1", kBackFromTop1}, {"zurueck-oben2", kBackFromTop2},
+        {"links", IDM_ISO_LEFT},
+        {"rechts", IDM_ISO_RIGHT},
+        {"oben1", IDM_ISO_TOP1},
+        {"oben2", IDM_ISO_TOP2},
+        {"zurueck-links", IDM_ISO_BACK_LEFT},
+        {"zurueck-rechts", IDM_ISO_BACK_RIGHT},
+        {"zurueck-oben1", IDM_ISO_BACK_TOP1},
+        {"zurueck-oben2", IDM_ISO_BACK_TOP2},
     };
     for (const auto& m : kModes) {
         if (words.size() == 1 && words[0] == m.word) {
-            ProjectSelection(context.document, m.mode);
-            return true;
+            return RunDocumentCommand(context.document, m.command);
         }
     }
     return Tell(context, "iso needs links, rechts, oben1, oben2 or zurueck-... of them");
