@@ -1,16 +1,16 @@
-// The canvas port on a real window: capture, cursors, inverted feedback and the popup menu.
-#include "ui/ContextMenu.h"
+// The canvas port on a real window: capture, cursors and inverted feedback (the popup menu is
+// tried on the editor's own canvas).
 #include "ui/tools/Feedback.h"
 #include "win32/Win32CanvasHost.h"
 
 #include <gtest/gtest.h>
 
-namespace rhomba {
+namespace rhomba::test {
 namespace {
 
-// A plain white window standing in for the canvas.
-class CanvasWindow {
-public:
+// A plain white window standing in for the canvas, with arrows for cursors and a cross for the
+// ellipse tool, the last.
+struct CanvasWindow : ::testing::Test {
     CanvasWindow() {
         WNDCLASSW wc{};
         wc.lpfnWndProc = ::DefWindowProcW;
@@ -23,10 +23,12 @@ public:
         ::UpdateWindow(hwnd);
         HDC dc = ::GetDC(hwnd);
         RECT all{0, 0, 400, 400};
-        ::FillRect(dc, &all, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+        ::FillRect(dc, &all, wc.hbrBackground);
         ::ReleaseDC(hwnd, dc);
+        cursors.fill(::LoadCursorW(nullptr, IDC_ARROW));
+        cursors.back() = ::LoadCursorW(nullptr, IDC_CROSS);
     }
-    ~CanvasWindow() { ::DestroyWindow(hwnd); }
+    ~CanvasWindow() override { ::DestroyWindow(hwnd); }
 
     COLORREF Pixel(int x, int y) const {
         HDC dc = ::GetDC(hwnd);
@@ -36,75 +38,29 @@ public:
     }
 
     HWND hwnd;
+    std::array<HCURSOR, kCanvasCursorCount> cursors;
 };
 
-// Arrows, and a cross for the ellipse tool, the last.
-std::array<HCURSOR, kCanvasCursorCount> Cursors() {
-    std::array<HCURSOR, kCanvasCursorCount> cursors;
-    cursors.fill(::LoadCursorW(nullptr, IDC_ARROW));
-    cursors.back() = ::LoadCursorW(nullptr, IDC_CROSS);
-    return cursors;
-}
-
-TEST(Win32CanvasHost, CapturesSetsCursorsAndDrawsFeedbackThatDrawingTwiceRemoves) {
-    CanvasWindow window;
-    const auto cursors = Cursors();
-    Win32CanvasHost host(window.hwnd, cursors);
+TEST_F(CanvasWindow, CapturesSetsCursorsAndDrawsFeedbackThatDrawingTwiceRemoves) {
+    Win32CanvasHost host(hwnd, cursors);
     host.CaptureMouse();
-    EXPECT_EQ(::GetCapture(), window.hwnd);
+    EXPECT_EQ(::GetCapture(), hwnd);
     host.ReleaseMouse();
     EXPECT_EQ(::GetCapture(), nullptr);
     host.SetToolCursor(CanvasCursor::Ellipse);
-    const auto classCursor = ::GetClassLongPtrW(window.hwnd, GCLP_HCURSOR);
-    EXPECT_EQ(reinterpret_cast<HCURSOR>(classCursor), cursors.back());
+    EXPECT_EQ(reinterpret_cast<HCURSOR>(::GetClassLongPtrW(hwnd, GCLP_HCURSOR)), cursors.back());
 
-    ASSERT_EQ(window.Pixel(40, 30), RGB(255, 255, 255));
+    ASSERT_EQ(Pixel(40, 30), RGB(255, 255, 255));
     FeedbackLayer feedback(host);
     feedback.Show(Feedback::Box({20, 30}, {80, 60}));
-    EXPECT_EQ(window.Pixel(40, 30), RGB(0, 0, 0));
-    EXPECT_EQ(window.Pixel(40, 45), RGB(255, 255, 255)); // the inside stays
+    EXPECT_EQ(Pixel(40, 30), RGB(0, 0, 0));
+    EXPECT_EQ(Pixel(40, 45), RGB(255, 255, 255)); // the inside stays
     feedback.Show(Feedback::Line({10, 100}, {110, 100}));
-    EXPECT_EQ(window.Pixel(40, 30), RGB(255, 255, 255));
-    EXPECT_EQ(window.Pixel(50, 100), RGB(0, 0, 0));
+    EXPECT_EQ(Pixel(40, 30), RGB(255, 255, 255));
+    EXPECT_EQ(Pixel(50, 100), RGB(0, 0, 0));
     feedback.Hide();
-    EXPECT_EQ(window.Pixel(50, 100), RGB(255, 255, 255));
-}
-
-// Chooses the first entry of the open popup menu with the keyboard, after checking its texts.
-std::wstring g_text;
-UINT g_grayed = 0;
-void CALLBACK ChooseFirst(HWND, UINT, UINT_PTR timer, DWORD) {
-    ::KillTimer(nullptr, timer);
-    HWND popup = ::FindWindowW(L"#32768", nullptr);
-    if (popup == nullptr) {
-        ::EndMenu();
-        return;
-    }
-    auto menu = reinterpret_cast<HMENU>(::SendMessageW(popup, MN_GETHMENU, 0, 0));
-    wchar_t text[64] = {};
-    ::GetMenuStringW(menu, 7, text, 64, MF_BYCOMMAND);
-    g_text = text;
-    g_grayed = ::GetMenuState(menu, 9, MF_BYCOMMAND) & MF_GRAYED;
-    ::PostMessageW(popup, WM_KEYDOWN, VK_DOWN, 0);
-    ::PostMessageW(popup, WM_KEYDOWN, VK_RETURN, 0);
-}
-void CALLBACK GiveUp(HWND, UINT, UINT_PTR timer, DWORD) {
-    ::KillTimer(nullptr, timer);
-    ::EndMenu();
-}
-
-TEST(Win32CanvasHost, TrackedMenuReturnsTheChosenEntry) {
-    CanvasWindow window;
-    Win32CanvasHost host(window.hwnd, Cursors());
-    ::SetForegroundWindow(window.hwnd);
-    const ContextMenu menu{{{7, "Gr\xFC\xDF" "e", true}, {}, {9, "L\xF6schen", false}}};
-    ::SetTimer(nullptr, 0, 200, ChooseFirst);
-    const UINT_PTR guard = ::SetTimer(nullptr, 0, 5000, GiveUp);
-    EXPECT_EQ(host.TrackMenu(menu, 10, 10), 7);
-    ::KillTimer(nullptr, guard);
-    EXPECT_EQ(g_text, L"Gr\u00FC\u00DFe");
-    EXPECT_NE(g_grayed, 0u);
+    EXPECT_EQ(Pixel(50, 100), RGB(255, 255, 255));
 }
 
 } // namespace
-} // namespace rhomba
+} // namespace rhomba::test

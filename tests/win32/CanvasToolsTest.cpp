@@ -47,23 +47,24 @@ TEST_F(CanvasTools, RectangleDrawnWithTheMouseAndTheObjectMenuOnIt) {
     EXPECT_NEAR(box.right - box.left, 100 / pixelsPerPoint, 1e-9);
     EXPECT_NEAR(box.top - box.bottom, 50 / pixelsPerPoint, 1e-9);
 
-    // A right click with the select tool opens the object menu of the selection; Escape closes it.
+    // A right click with the select tool opens the object menu of the selection; its "Loeschen"
+    // chosen with the keyboard deletes the rectangle.
     ::SendMessageW(::GetDlgItem(TheShell().palette, IDC_TOOL_SELECT), BM_CLICK, 0, 0);
+    const ContextMenu expected = BuildObjectMenu(Doc());
     ModalDriver driver;
-    ContextMenu shown;
-    driver.Then([&shown](HWND menu) {
-        shown = ShownMenu(menu);
-        ::PostMessageW(menu, WM_KEYDOWN, VK_ESCAPE, 0);
+    driver.Then([&expected](HWND menu) {
+        const ContextMenu shown = ShownMenu(menu);
+        ASSERT_EQ(shown.entries.size(), expected.entries.size());
+        for (std::size_t i = 0; i < shown.entries.size(); ++i) {
+            EXPECT_EQ(shown.entries[i].text, expected.entries[i].text) << i;
+            EXPECT_EQ(shown.entries[i].enabled, expected.entries[i].enabled) << i;
+        }
+        for (int i = 0; i < 6; ++i) ::PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
+        ::PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
     }, true);
     Mouse(WM_RBUTTONUP, 150, 125, 0);
     ASSERT_TRUE(driver.Done());
-    const ContextMenu expected = BuildObjectMenu(Doc());
-    ASSERT_EQ(shown.entries.size(), expected.entries.size());
-    for (std::size_t i = 0; i < shown.entries.size(); ++i) {
-        EXPECT_EQ(shown.entries[i].text, expected.entries[i].text) << i;
-        EXPECT_EQ(shown.entries[i].enabled, expected.entries[i].enabled) << i;
-    }
-    EXPECT_EQ(Doc().CurrentLayer().ChildCount(), 1u); // dismissed: nothing happened
+    EXPECT_EQ(Doc().CurrentLayer().ChildCount(), 0u);
 }
 
 } // namespace

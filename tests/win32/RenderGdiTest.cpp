@@ -1,16 +1,14 @@
 // The drawing code through real GDI: a small drawing painted into a DIB section and checked
 // pixel by pixel.
 #include "model/Document.h"
-#include "model/PathObject.h"
 #include "render/DeviceCache.h"
 #include "render/DrawContext.h"
+#include "support/Paths.h"
 #include "win32/GdiDevice.h"
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
-namespace rhomba {
+namespace rhomba::test {
 namespace {
 
 constexpr int kSize = 100;
@@ -20,12 +18,7 @@ class Bitmap {
 public:
     Bitmap() {
         BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = kSize;
-        info.bmiHeader.biHeight = -kSize;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        info.bmiHeader.biCompression = BI_RGB;
+        info.bmiHeader = {sizeof info.bmiHeader, kSize, -kSize, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
         dc_ = ::CreateCompatibleDC(nullptr);
         bitmap_ = ::CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits_, nullptr, 0);
         old_ = ::SelectObject(dc_, bitmap_);
@@ -38,10 +31,13 @@ public:
         ::DeleteDC(dc_);
     }
     HDC Dc() const { return dc_; }
-    // 0xRRGGBB of a pixel.
-    std::uint32_t At(int x, int y) const {
+    // 0xRRGGBB of the pixels at (50, 50), on the left and top edges, outside, and at (90, 10).
+    std::vector<std::uint32_t> Probe() const {
         ::GdiFlush();
-        return static_cast<const std::uint32_t*>(bits_)[y * kSize + x] & 0xFFFFFF;
+        std::vector<std::uint32_t> seen;
+        for (auto [x, y] : {std::pair{50, 50}, {20, 50}, {50, 20}, {5, 5}, {90, 10}})
+            seen.push_back(static_cast<const std::uint32_t*>(bits_)[y * kSize + x] & 0xFFFFFF);
+        return seen;
     }
 
 private:
@@ -51,75 +47,47 @@ private:
     void* bits_ = nullptr;
 };
 
-std::unique_ptr<PathObject> Square(double x0, double y0, double x1, double y1) {
-    auto path = std::make_unique<PathObject>();
-    path->AddNode({x0, y0}, node::kMoveTo);
-    path->AddNode({x1, y0}, node::kLineTo);
-    path->AddNode({x1, y1}, node::kLineTo);
-    path->AddNode({x0, y1}, node::kLineTo | node::kCloseFigure);
-    return path;
-}
-
-class RenderGdi : public ::testing::Test {
-protected:
-    void SetUp() override {
-        RestoreProcessStartDeviceState();
-        // Layer 0: a red square with a thick black edge. Layer 1, hidden: a blue square.
-        auto* red = static_cast<PathObject*>(document.AddObject(Square(20, 20, 80, 80)));
-        red->SetFillColor(0x0000FF);
-        red->SetPenWidth(4);  // 4 x 1.7639 x zoom 0.5 = 3.5, four pixels on the screen
-        document.NewLayer("verborgen", "v");
-        auto* blue = static_cast<PathObject*>(document.AddObject(Square(84, 84, 96, 96)));
-        blue->SetFillColor(0xFF0000);
-        blue->SetStroke(false);
-        document.ClearSelection();
-    }
-    void TearDown() override { RestoreProcessStartDeviceState(); }
-
+// Layer 0: a red square with a thick black edge. Layer 1, hidden: a blue square in the corner.
+// One point is one pixel, y up from the bottom edge.
+TEST(RenderGdi, EditingLeavesHiddenLayersOutRenderingDrawsThemAndTheCanvasCopiesInOneStep) {
+    RestoreProcessStartDeviceState();
     Document document;
-    // One point is one pixel, y up from the bottom edge.
+    PathObject* red = Add(document, Square(20, 20, 60));
+    red->SetFillColor(0x0000FF);
+    red->SetPenWidth(4); // 4 x 1.7639 x zoom 0.5 = 3.5, four pixels on the screen
+    document.NewLayer("verborgen", "v");
+    PathObject* blue = Add(document, Square(84, 84, 12));
+    blue->SetFillColor(0xFF0000);
+    blue->SetStroke(false);
+    document.ClearSelection();
     const Matrix2D view{1, 0, 0, -1, 0, kSize};
-};
-
-TEST_F(RenderGdi, DrawEditFillsStrokesAndLeavesHiddenLayersOut) {
+    {
+        Bitmap target;
+        OffscreenCanvas canvas(target.Dc(), kSize, kSize);
+        GdiDevice device(canvas.Dc());
+        document.DrawEdit(device, {view, document.view.zoom}, 0);
+        // Nothing reaches the window before the copy.
+        EXPECT_EQ(target.Probe(), (std::vector<std::uint32_t>(5, 0xFFFFFF)));
+        canvas.Present();
+        EXPECT_EQ(target.Probe(), (std::vector<std::uint32_t>{0xFF0000, 0, 0, 0xFFFFFF, 0xFFFFFF}));
+    }
     Bitmap bitmap;
     GdiDevice device(bitmap.Dc());
-    document.DrawEdit(device, {view, document.view.zoom}, 0);
-    EXPECT_EQ(bitmap.At(50, 50), 0xFF0000u) << "fill inside";
-    EXPECT_EQ(bitmap.At(20, 50), 0x000000u) << "stroke on the left edge";
-    EXPECT_EQ(bitmap.At(50, 20), 0x000000u) << "stroke on the top edge";
-    EXPECT_EQ(bitmap.At(5, 5), 0xFFFFFFu) << "outside";
-    EXPECT_EQ(bitmap.At(90, 10), 0xFFFFFFu) << "hidden layer";
-}
-
-TEST_F(RenderGdi, RenderDrawsHiddenLayersToo) {
-    Bitmap bitmap;
-    GdiDevice device(bitmap.Dc());
-    ResetDeviceCache();
+    RestoreProcessStartDeviceState();
     SetPathOutputMode(PathOutputMode::ExplicitPath);
-    document.LayerAt(0).ChildAt(0)->SetPenWidth(0.1);  // two logical units at 20 per point
+    red->SetPenWidth(0.1); // two logical units at 20 per point
     document.Render(device, view);
-    EXPECT_EQ(bitmap.At(50, 50), 0xFF0000u);
-    EXPECT_EQ(bitmap.At(90, 10), 0x0000FFu) << "hidden layer, rendered";
-    EXPECT_EQ(bitmap.At(5, 5), 0xFFFFFFu);
+    const auto rendered = bitmap.Probe();
+    EXPECT_EQ(rendered[0], 0xFF0000u);
+    EXPECT_EQ(rendered[3], 0xFFFFFFu);
+    EXPECT_EQ(rendered[4], 0x0000FFu) << "hidden layer, rendered";
     // The cache deleted what it replaced; the last pen and brush are still selected.
     const GdiHandle pen = device.SelectObject(device.GetStockObject(StockObject::BlackPen));
     EXPECT_NE(pen, 0u);
     device.DeleteObject(pen);
     device.DeleteObject(device.SelectObject(device.GetStockObject(StockObject::WhiteBrush)));
-}
-
-TEST_F(RenderGdi, OffscreenCanvasCopiesInOneStep) {
-    Bitmap target;
-    {
-        OffscreenCanvas canvas(target.Dc(), kSize, kSize);
-        GdiDevice device(canvas.Dc());
-        document.DrawEdit(device, {view, document.view.zoom}, 0);
-        EXPECT_EQ(target.At(50, 50), 0xFFFFFFu) << "nothing reaches the window before the copy";
-        canvas.Present();
-    }
-    EXPECT_EQ(target.At(50, 50), 0xFF0000u);
+    RestoreProcessStartDeviceState();
 }
 
 } // namespace
-} // namespace rhomba
+} // namespace rhomba::test
