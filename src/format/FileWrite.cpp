@@ -52,6 +52,8 @@ int Sync(int file) { return ::fsync(file); }
 // limit shows as a failed write instead.
 class FileSizeSignalIgnored {
 #if defined(_WIN32)
+public:
+    FileSizeSignalIgnored() {} // nothing to ignore there; user-provided so it counts as used
 };
 #else
 public:

@@ -82,21 +82,13 @@ bool RunDelete(StepContext& context, StepWords) {
 }
 
 bool RunArrange(StepContext& context, StepWords words) {
-    static const struct {
-        std::string_view word;
-        int command;
-    } kSteps[] = {
+    static constexpr CommandWord kSteps[] = {
         {"-1", IDM_BACK_ONE},
         {"-111", IDM_BACK_ALL},
         {"1", IDM_FORWARD_ONE},
         {"111", IDM_FORWARD_ALL},
     };
-    for (const auto& step : kSteps) {
-        if (words.size() == 1 && Trim(words[0]) == step.word) {
-            return RunDocumentCommand(context.document, step.command);
-        }
-    }
-    return Tell(context, "arrange takes -1, -111, 1 or 111");
+    return RunNamedCommand(context, words, kSteps, "arrange takes -1, -111, 1 or 111");
 }
 
 bool RunProp(StepContext& context, StepWords words) {

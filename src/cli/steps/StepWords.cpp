@@ -2,6 +2,7 @@
 
 #include "geometry/NumberText.h"
 #include "model/Reporter.h"
+#include "ui/DocumentCommands.h"
 
 #include <string>
 
@@ -27,6 +28,16 @@ std::vector<std::string> SplitKeepingRest(std::string_view rest, std::size_t cou
 bool Tell(StepContext& context, std::string_view message) {
     context.reporter.Inform("rhomba-cli: " + std::string(message));
     return false;
+}
+
+bool RunNamedCommand(StepContext& context, StepWords words, std::span<const CommandWord> names,
+                     std::string_view usage) {
+    for (const CommandWord& name : names) {
+        if (words.size() == 1 && words[0] == name.word) {
+            return RunDocumentCommand(context.document, name.command);
+        }
+    }
+    return Tell(context, usage);
 }
 
 bool ReadFlag(std::string_view word, bool& flag) {

@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <initializer_list>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -29,6 +30,15 @@ bool ReadWhole(std::string_view word, Integer& value) {
     const auto result = std::from_chars(word.data(), word.data() + word.size(), value);
     return result.ec == std::errc{} && result.ptr == word.data() + word.size();
 }
+// A step whose one word names one of the editor's own commands ("iso links", "arrange -1").
+struct CommandWord {
+    std::string_view word;
+    int command;
+};
+// Runs the command the step's one word names; otherwise tells usage and returns false.
+bool RunNamedCommand(StepContext& context, StepWords words, std::span<const CommandWord> names,
+                     std::string_view usage);
+
 // The position of word among names, -1 when it is none of them.
 int IndexOf(std::string_view word, std::initializer_list<std::string_view> names);
 

@@ -2,7 +2,6 @@
 // go through the dialog models exactly as if typed into the fields before OK.
 #include "cli/steps/StepWords.h"
 #include "model/Document.h"
-#include "ui/DocumentCommands.h"
 #include "ui/dialogs/AffineDialogs.h"
 #include "ui/dialogs/FieldDialog.h"
 #include "ui/dialogs/IsoSpaceDialogs.h"
@@ -12,12 +11,8 @@ namespace rhomba::cli {
 
 namespace {
 
-// The projections run by the editor's menu ids.
 bool RunIso(StepContext& context, StepWords words) {
-    static const struct {
-        std::string_view word;
-        int command;
-    } kModes[] = {
+    static constexpr CommandWord kModes[] = {
         {"links", IDM_ISO_LEFT},
         {"rechts", IDM_ISO_RIGHT},
         {"oben1", IDM_ISO_TOP1},
@@ -27,12 +22,8 @@ bool RunIso(StepContext& context, StepWords words) {
         {"zurueck-oben1", IDM_ISO_BACK_TOP1},
         {"zurueck-oben2", IDM_ISO_BACK_TOP2},
     };
-    for (const auto& m : kModes) {
-        if (words.size() == 1 && words[0] == m.word) {
-            return RunDocumentCommand(context.document, m.command);
-        }
-    }
-    return Tell(context, "iso needs links, rechts, oben1, oben2 or zurueck-... of them");
+    return RunNamedCommand(context, words, kModes,
+                           "iso needs links, rechts, oben1, oben2 or zurueck-... of them");
 }
 
 bool RunRotate(StepContext& context, StepWords words) {
