@@ -36,7 +36,7 @@ public:
     // The open dialog for drawings; no value when cancelled.
     virtual std::optional<std::string> ChooseFileToOpen() = 0;
     // A save dialog (overwrite prompt, path must exist); no value when cancelled.
-    virtual std::optional<std::string> ChooseFileToSave(const SaveDialogSpec& spec) = 0;
+    virtual std::optional<std::string> ChooseFileToSave(const SaveDialogSpec& request) = 0;
 
     virtual bool ClipboardHasText() = 0;
     // The clipboard's text as the paste decision reads it; no value when it holds none.

@@ -30,8 +30,8 @@ struct FakeShellHost : Recording<ShellHost> {
     std::string title;
 
     std::optional<std::string> ChooseFileToOpen() override { return fileToOpen; }
-    std::optional<std::string> ChooseFileToSave(const SaveDialogSpec& spec) override {
-        saveDialogs.push_back(spec);
+    std::optional<std::string> ChooseFileToSave(const SaveDialogSpec& request) override {
+        saveDialogs.push_back(request);
         return fileToSave;
     }
     bool ClipboardHasText() override { return clipboard.has_value(); }

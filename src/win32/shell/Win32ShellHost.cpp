@@ -47,8 +47,8 @@ bool Win32ShellHost::Ask(std::string_view question) {
 
 std::optional<std::string> Win32ShellHost::ChooseFileToOpen() { return FileDialog("", kDrawingFileFilter, false); }
 
-std::optional<std::string> Win32ShellHost::ChooseFileToSave(const SaveDialogSpec& spec) {
-    return FileDialog(spec.proposal, spec.filter.c_str(), true);
+std::optional<std::string> Win32ShellHost::ChooseFileToSave(const SaveDialogSpec& request) {
+    return FileDialog(request.proposal, request.filter.c_str(), true);
 }
 
 bool Win32ShellHost::ClipboardHasText() { return ::IsClipboardFormatAvailable(CF_TEXT) != FALSE; }

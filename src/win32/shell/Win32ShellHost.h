@@ -12,7 +12,7 @@ public:
     bool Ask(std::string_view question) override;
 
     std::optional<std::string> ChooseFileToOpen() override;
-    std::optional<std::string> ChooseFileToSave(const SaveDialogSpec& spec) override;
+    std::optional<std::string> ChooseFileToSave(const SaveDialogSpec& request) override;
 
     bool ClipboardHasText() override;
     std::optional<ClipboardText> ReadClipboard() override;
