@@ -46,15 +46,10 @@ TEST(EmfExport, ConvertedByTheCliWithPathsPensAndText) {
     text->SetText("Ma\xDF");
     text->SetTextPosition(10, 10);
 
-<<<<<<< HEAD
-    const std::string drawing = TempPath("rhomba-emf-test.rhomba");
-    const std::string file = TempPath("rhomba-emf-test.emf");
+    const TempFile drawing("rhomba-emf-test.rhomba", "", false);
+    const TempFile file("rhomba-emf-test.emf", "", false);
     test::RecordingReporter reporter;
-    ASSERT_TRUE(SaveNativeFile(document, drawing, reporter));
-=======
-    const TempFile drawing("rhomba-emf-test.rhomba", "", false), file("rhomba-emf-test.emf", "", false);
-    ASSERT_TRUE(SaveNativeFile(document, drawing.path));
->>>>>>> tests-ui
+    ASSERT_TRUE(SaveNativeFile(document, drawing.path, reporter));
     std::ostringstream out, err;
     ASSERT_EQ(cli::Run({"convert", drawing.path, file.path}, out, err), 0) << err.str();
     EXPECT_EQ(err.str(), "");
@@ -79,10 +74,11 @@ TEST(EmfExport, ConvertedByTheCliWithPathsPensAndText) {
     EXPECT_LT(records.frame.left, records.frame.right);
     EXPECT_LT(records.frame.top, records.frame.bottom);
 
-    RecordingReporter reporter;
+    reporter.messages.clear();
     const std::string nowhere = "Q:\\kein\\Ordner\\da\\x.emf";
     EXPECT_FALSE(WriteEmfFile(document, nowhere, nullptr, reporter));
-    EXPECT_EQ(reporter.messages, std::vector<std::string>{nowhere + " konnte nicht zum Schreiben ge\xF6" "ffnet werden."});
+    EXPECT_EQ(reporter.messages, std::vector<std::string>{nowhere + " konnte nicht zum Schreiben ge\xF6"
+                                                                  "ffnet werden."});
     RestoreProcessStartDeviceState();
 }
 
