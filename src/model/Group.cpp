@@ -25,11 +25,6 @@ void Group::Describe(std::string& out) const {
     out = text;
 }
 
-void Group::DrawEdit(Device& device, const DrawContext& context, unsigned flags) {
-    if (IsHidden()) return;
-    for (auto& child : children_) child->DrawEdit(device, context, flags);
-}
-
 void Group::SetSelected(bool selected) {
     GraphicObject::SetSelected(selected);
     for (auto& child : children_) child->SetSelected(selected);

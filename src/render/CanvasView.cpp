@@ -73,7 +73,8 @@ void CanvasView::ScrollBy(double dx, double dy) {
 }
 
 void CanvasView::Paint(Device& device, int tool) {
-    const DrawContext context{document_.view.view, document_.view.zoom};
+    DrawContext context{document_.view.view, document_.view.zoom};
+    if (width_ > 0 && height_ > 0) context.visible = PixelBox{0, 0, double(width_), double(height_)};
     if (switches.pageFrame) DrawPageFrame(device);
     if (switches.coordinateCross) DrawCoordinateCross(device);
     const unsigned flags = (document_.GetFlags() & Document::kFlagDraft) ? kDrawOutline : 0;

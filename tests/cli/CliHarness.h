@@ -4,6 +4,7 @@
 #include "format/NativeReader.h"
 #include "model/Document.h"
 #include "model/PathObject.h"
+#include "support/TempFile.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +18,7 @@ namespace rhomba::cli {
 class CliHarness : public ::testing::Test {
 protected:
     static std::string Temp(const std::string& name) {
-        return (std::filesystem::path(testing::TempDir()) / name).string();
+        return (test::TestFolder() / name).string();
     }
     static std::string Read(const std::string& path) {
         std::ifstream in(path, std::ios::binary);

@@ -42,7 +42,7 @@ TEST_F(Cli, ConvertKeepsNativeBytesAndWritesSvg) {
 
 TEST_F(Cli, FilesThatCannotBeReadOrWrittenGiveTheProgramsMessageInUtf8AndExitOne) {
     Write(Temp("kaputt.rhomba"), "Kein Rhomba, nur Text mit genug Bytes");
-    const std::string folder = testing::TempDir();
+    const std::string folder = test::TestFolder().string() + "/";
     const std::string unwritable = Temp("gibt-es-nicht/x.txt");
     const struct {
         std::vector<std::string> args;
@@ -148,7 +148,7 @@ TEST_F(Cli, CopyAndPasteThroughFiles) {
     Apply("-", {"paste " + Temp("zeilen.txt") + " n"});
     EXPECT_EQ(result.CurrentLayer().ChildCount(), 0u);
     // A folder pastes nothing and says why, like the loader.
-    EXPECT_EQ(Apply("-", {"paste", testing::TempDir()}), kExitOk);
+    EXPECT_EQ(Apply("-", {"paste", test::TestFolder().string()}), kExitOk);
     EXPECT_NE(err.find("konnte nicht zum Lesen"), std::string::npos);
 }
 

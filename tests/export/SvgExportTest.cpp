@@ -145,7 +145,7 @@ TEST(SvgExport, ExportedDrawingParsesAsXmlAndRenders) {
     Document doc;
     RecordingReporter reporter;
     ASSERT_TRUE(LoadNativeFile(doc, RHOMBA_SOURCE_DIR "/examples/haus.rhomba", reporter));
-    const std::string dir = testing::TempDir();
+    const std::string dir = test::TestFolder().string();
     const std::string svg = dir + "/haus-export.svg";
     const std::string png = dir + "/haus-export.png";
     ASSERT_TRUE(ExportSvgFile(doc, svg, reporter));

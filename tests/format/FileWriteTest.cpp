@@ -20,7 +20,7 @@ using test::TempFile;
 const std::string kCannotOpen = " konnte nicht zum Schreiben ge\xF6" "ffnet werden.";
 
 TEST(FileWrite, ReplacesTheWholeFileKeepingItsPermissionsAndNoOtherFile) {
-    const fs::path folder = fs::path(testing::TempDir()) / "ersetzen";
+    const fs::path folder = test::TestFolder() / "ersetzen";
     fs::remove_all(folder);
     fs::create_directory(folder);
     const std::string target = (folder / "ziel.svg").string();

@@ -83,6 +83,7 @@ TEST_F(Canvas, IsometricLinesStayFixedToTheClientArea) {
 
 TEST_F(Canvas, PaintOrderWithNodeToolAndDraft) {
     view.switches = {false, false, true};
+    view.SetClientSize(800, 1000);
     auto* path = document.AddObject(Square(0, 0, 10));
     document.SetFlags(document.GetFlags() | Document::kFlagDraft);
     view.Paint(device, kToolNode);
@@ -93,6 +94,20 @@ TEST_F(Canvas, PaintOrderWithNodeToolAndDraft) {
     EXPECT_EQ(device.CountNamed("FillPath"), 0u);
     EXPECT_EQ(device.CountNamed("Rectangle"), 1u + 3u);  // hollow start mark, three line nodes
     EXPECT_TRUE(path->IsSelected());
+}
+
+// The client is 800 by 600 pixels; a point is 0.88 pixels at zoom 0.5, x = 0 lies at pixel 100.
+TEST_F(Canvas, PathsWhollyOutsideTheClientAreaAreSkipped) {
+    view.switches = {false, false, false};
+    struct Case { double x, penWidth; bool drawn; };
+    for (const Case c : {Case{780, 0, true}, Case{800, 0, false}, Case{800, 5, true},
+                         Case{-130, 0, false}, Case{-125, 0, true}}) {
+        document.Reset();
+        document.AddObject(Square(c.x, 300, 10))->SetPenWidth(c.penWidth);
+        device.ClearCalls();
+        view.Paint(device, kToolSelect);
+        EXPECT_EQ(device.CountNamed("PolyDraw") > 0, c.drawn) << c.x << " " << c.penWidth;
+    }
 }
 
 TEST_F(Canvas, SelectToolDrawsADottedBoxWithEightHandles) {
