@@ -22,7 +22,8 @@ void Polyline(PathObject& path, std::size_t selectEvery) {
     for (std::size_t i = 0; i < kNodes; ++i) {
         NodeType t = i % 1000 == 0 ? node::kMoveTo : node::kLineTo;
         if (selectEvery != 0 && i % selectEvery == 0) t |= node::kSelected;
-        path.AddNode({static_cast<double>(i % 1000), static_cast<double>(i / 1000 * 10 + i % 2)}, t);
+        path.AddNode({static_cast<double>(i % 1000), static_cast<double>(i / 1000 * 10 + i % 2)},
+                     t);
     }
 }
 
@@ -33,7 +34,8 @@ void SmoothPolyline(PathObject& path) {
     for (std::size_t i = 0; i < kNodes; ++i) {
         const double x = static_cast<double>(i) * 0.7;
         const double y = 80 * std::sin(x / 90) + 25 * std::cos(x / 23);
-        path.AddNode({x, y}, static_cast<NodeType>((i == 0 ? node::kMoveTo : node::kLineTo) | node::kSelected));
+        path.AddNode({x, y}, static_cast<NodeType>((i == 0 ? node::kMoveTo : node::kLineTo) |
+                                                   node::kSelected));
     }
 }
 
@@ -50,7 +52,8 @@ int main() {
 
     Polyline(path, 10);
     double t = Seconds([&] { SplitAtSelectedNodes(path); });
-    std::printf("Trennen, 100000 nodes, every tenth selected: %.4f s (%zu nodes after)\n", t, path.NodeCount());
+    std::printf("Trennen, 100000 nodes, every tenth selected: %.4f s (%zu nodes after)\n", t,
+                path.NodeCount());
 
     Polyline(path, 0);
     t = Seconds([&] { JoinWithLine(path, 999, kNodes - 1); });
@@ -61,7 +64,8 @@ int main() {
 
     Polyline(path, 2);
     t = Seconds([&] { DeleteSelectedNodes(path); });
-    std::printf("Loeschen of half of 100000 nodes: %.4f s (%zu nodes after)\n", t, path.NodeCount());
+    std::printf("Loeschen of half of 100000 nodes: %.4f s (%zu nodes after)\n", t,
+                path.NodeCount());
 
     Polyline(path, 0);
     t = Seconds([&] { AddNodeAt(path, {500.5, 500.5}, 10); });
@@ -83,8 +87,9 @@ int main() {
     for (int k = 0; k < 1000; ++k) {
         const double a = 6.283185307179586 * k / 1000;
         circle.AddNode({100 * std::cos(a), 100 * std::sin(a)},
-                       static_cast<NodeType>((k == 0 ? node::kMoveTo : k == 999 ? node::kLineTo | node::kCloseFigure
-                                                                                 : node::kLineTo) |
+                       static_cast<NodeType>((k == 0     ? node::kMoveTo
+                                              : k == 999 ? node::kLineTo | node::kCloseFigure
+                                                         : node::kLineTo) |
                                              node::kSelected));
     }
     PathObject circleBefore;
@@ -96,11 +101,13 @@ int main() {
     while (cursor.Next(s)) {
         if (s.kind == SegmentKind::Move) continue;
         for (int k = 0; k <= 16; ++k) {
-            worst = std::max(worst, DistanceToPath(circle, s.start + (s.End() - s.start) * (k / 16.0)));
+            worst =
+                std::max(worst, DistanceToPath(circle, s.start + (s.End() - s.start) * (k / 16.0)));
         }
     }
-    std::printf("Automatisch reduzieren, circle r=100 pt of 1000 line nodes: %.4f s, %zu nodes after, "
-                "largest deviation %.4f pt\n",
-                t, circle.NodeCount(), worst);
+    std::printf(
+        "Automatisch reduzieren, circle r=100 pt of 1000 line nodes: %.4f s, %zu nodes after, "
+        "largest deviation %.4f pt\n",
+        t, circle.NodeCount(), worst);
     return 0;
 }

@@ -73,7 +73,8 @@ void Generate(rhomba::Document& document, std::size_t nodes) {
             if ((path->NodeCount() / 3) % 2 == 0) {
                 path->AddNode({next(), next()}, rhomba::node::kLineTo);
             } else {
-                for (int k = 0; k < 3; ++k) path->AddNode({next(), next()}, rhomba::node::kBezierTo);
+                for (int k = 0; k < 3; ++k)
+                    path->AddNode({next(), next()}, rhomba::node::kBezierTo);
             }
         }
         const int style = static_cast<int>(object % 4);
@@ -133,7 +134,8 @@ std::size_t FormatFloor(rhomba::Document& document, std::string& out) {
         auto* object = layer.ChildAt(i);
         if (object->GetKind() != rhomba::ObjectKind::Path) continue;
         for (const rhomba::Point2& p : static_cast<rhomba::PathObject*>(object)->Points()) {
-            auto r = std::to_chars(buffer, buffer + sizeof buffer, p.x, std::chars_format::general, 6);
+            auto r =
+                std::to_chars(buffer, buffer + sizeof buffer, p.x, std::chars_format::general, 6);
             out.append(buffer, r.ptr);
             out.push_back('\t');
             r = std::to_chars(buffer, buffer + sizeof buffer, p.y, std::chars_format::general, 6);
@@ -207,10 +209,10 @@ int main(int argc, char** argv) {
     const long peakKb = PeakKilobytesOfLoad(path);
     if (std::getenv("RHOMBA_BENCH_KEEP") == nullptr) std::remove(path.c_str());
 
-    std::printf("drawing: %zu nodes, native file %.1f MB, SVG %.1f MB, %zu numbers\n", nodes, fileMb,
-                svgMb, numbers);
-    std::printf("load:       %7.3f s  %7.1f MB/s   floor %7.3f s  ratio %.2f\n", load, fileMb / load,
-                loadFloor, load / loadFloor);
+    std::printf("drawing: %zu nodes, native file %.1f MB, SVG %.1f MB, %zu numbers\n", nodes,
+                fileMb, svgMb, numbers);
+    std::printf("load:       %7.3f s  %7.1f MB/s   floor %7.3f s  ratio %.2f\n", load,
+                fileMb / load, loadFloor, load / loadFloor);
     std::printf("save:       %7.3f s  %7.1f MB/s   floor %7.3f s  ratio %.2f (floor %.1f MB)\n",
                 save, fileMb / save, formatFloor, save / formatFloor, formattedBytes / 1e6);
     std::printf("SVG export: %7.3f s  %7.1f MB/s   floor %7.3f s  ratio %.2f\n", exportSvg,

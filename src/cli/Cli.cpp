@@ -73,7 +73,8 @@ std::string Lower(std::string text) {
 }
 
 bool EndsWith(const std::string& text, std::string_view suffix) {
-    return text.size() >= suffix.size() && Lower(text.substr(text.size() - suffix.size())) == suffix;
+    return text.size() >= suffix.size() &&
+           Lower(text.substr(text.size() - suffix.size())) == suffix;
 }
 
 const Step* FindStep(std::string_view keyword) {
@@ -106,7 +107,8 @@ bool PlanSteps(StepWords args, std::vector<PlannedStep>& plan, std::ostream& err
             continue;
         }
         const std::size_t blank = argument.find(' ');
-        const Step* step = blank == std::string::npos ? nullptr : FindStep(argument.substr(0, blank));
+        const Step* step =
+            blank == std::string::npos ? nullptr : FindStep(argument.substr(0, blank));
         if (step == nullptr) {
             err << "rhomba-cli: unknown step '" << argument << "'\n";
             return false;
@@ -194,7 +196,8 @@ void WriteInfo(Document& document, std::ostream& out) {
         if (IsContainer(object)) {
             const Group& group = static_cast<const Group&>(object);
             for (std::size_t i = group.ChildCount(); i-- > 0;) {
-                if (GraphicObject* child = group.ChildAt(i)) work.push_back({child, item.depth + 1});
+                if (GraphicObject* child = group.ChildAt(i))
+                    work.push_back({child, item.depth + 1});
             }
         }
     }

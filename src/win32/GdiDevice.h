@@ -26,7 +26,8 @@ public:
     void StrokeAndFillPath() override;
     void FillPath() override;
     void StrokePath() override;
-    void PolyDraw(std::span<const DevicePoint> points, std::span<const std::uint8_t> types) override;
+    void PolyDraw(std::span<const DevicePoint> points,
+                  std::span<const std::uint8_t> types) override;
     void MoveTo(int x, int y) override;
     void LineTo(int x, int y) override;
     void PolyBezierTo(std::span<const DevicePoint> points) override;

@@ -19,14 +19,16 @@ void Mouse(UINT message, int x, int y, WPARAM keys) {
 
 // The texts and enabling of a popup menu window.
 ContextMenu ShownMenu(HWND menuWindow) {
-    HMENU menu = reinterpret_cast<HMENU>(::SendMessageW(menuWindow, 0x01E1 /* MN_GETHMENU */, 0, 0));
+    HMENU menu =
+        reinterpret_cast<HMENU>(::SendMessageW(menuWindow, 0x01E1 /* MN_GETHMENU */, 0, 0));
     ContextMenu shown;
     for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
         wchar_t text[128] = {};
         ::GetMenuStringW(menu, i, text, 128, MF_BYPOSITION);
         const UINT state = ::GetMenuState(menu, i, MF_BYPOSITION);
-        shown.entries.push_back({static_cast<int>(::GetMenuItemID(menu, i)), Narrow(text),
-                                 (state & (MF_GRAYED | MF_DISABLED)) == 0 && (state & MF_SEPARATOR) == 0});
+        shown.entries.push_back(
+            {static_cast<int>(::GetMenuItemID(menu, i)), Narrow(text),
+             (state & (MF_GRAYED | MF_DISABLED)) == 0 && (state & MF_SEPARATOR) == 0});
     }
     return shown;
 }

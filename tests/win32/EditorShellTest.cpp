@@ -36,11 +36,13 @@ using EditorShell = EditorFixture;
 
 TEST_F(EditorShell, StartsWithItsWindowsLaidOutAndTheFileTypeRegistered) {
     const Shell& shell = TheShell();
-    EXPECT_EQ(ClassOf(shell.main) + ModalDriver::Text(shell.main) + ClassOf(shell.canvas), "RhombaRhombaRHOMBAVIEW");
+    EXPECT_EQ(ClassOf(shell.main) + ModalDriver::Text(shell.main) + ClassOf(shell.canvas),
+              "RhombaRhombaRHOMBAVIEW");
     EXPECT_EQ(::GetParent(shell.canvas), shell.main);
     RECT client{};
     ::GetClientRect(shell.main, &client);
-    const RECT palette = Placed(shell.palette), status = Placed(shell.status), canvas = Placed(shell.canvas);
+    const RECT palette = Placed(shell.palette), status = Placed(shell.status),
+               canvas = Placed(shell.canvas);
     // The palette and the status strip stand one pixel over the edges; the canvas fills the rest.
     EXPECT_EQ(palette.left, -1);
     EXPECT_EQ(status.bottom, client.bottom);
@@ -65,14 +67,17 @@ TEST_F(EditorShell, MissingCommandLineFileIsReportedAndLeavesAWorkingEditor) {
     driver.Answer(IDOK);
     ASSERT_TRUE(Start("\"Z:\\nirgends\\fe\"hlt.rhomba\""));
     EXPECT_EQ(driver.seen, std::vector<std::string>{"Rhomba|Die Datei 'Z:\\nirgends\\fehlt.rhomba' "
-                                                    "konnte nicht zum Lesen ge\xF6" "ffnet werden."});
+                                                    "konnte nicht zum Lesen ge\xF6"
+                                                    "ffnet werden."});
     EXPECT_EQ(Doc().LayerCount(), 0u);
 }
 
 // The "Bearbeiten" menu as it opens, without and with a selection and clipboard text.
 TEST_F(EditorShell, EditMenuFollowsSelectionAndClipboard) {
     HMENU edit = ::GetSubMenu(::GetMenu(TheShell().main), 1);
-    auto grayed = [edit](int id, UINT by = MF_BYCOMMAND) { return (::GetMenuState(edit, id, by) & MF_GRAYED) != 0; };
+    auto grayed = [edit](int id, UINT by = MF_BYCOMMAND) {
+        return (::GetMenuState(edit, id, by) & MF_GRAYED) != 0;
+    };
     ::OpenClipboard(TheShell().main);
     ::EmptyClipboard();
     ::CloseClipboard();
@@ -80,7 +85,8 @@ TEST_F(EditorShell, EditMenuFollowsSelectionAndClipboard) {
         if (selected) Add(Doc(), Square(0, 0, 10));
         if (selected) Command(IDM_COPY); // text on the clipboard enables paste
         ::SendMessageW(TheShell().main, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(edit), 1);
-        for (int id : {IDM_PASTE, IDM_COPY, IDM_CUT, IDM_DELETE, IDM_ROTATE, IDM_STRETCH, IDM_SHEAR, IDM_MOVE})
+        for (int id : {IDM_PASTE, IDM_COPY, IDM_CUT, IDM_DELETE, IDM_ROTATE, IDM_STRETCH, IDM_SHEAR,
+                       IDM_MOVE})
             EXPECT_EQ(grayed(id), !selected) << id;
         EXPECT_EQ(grayed(POS_ISOMETRY_POPUP, MF_BYPOSITION), !selected);
         EXPECT_FALSE(grayed(POS_ISOMETRY_POPUP + 1, MF_BYPOSITION)); // "Is&ometrie II"
@@ -111,8 +117,10 @@ TEST_F(EditorShell, CopyAndPasteGoThroughTheRealClipboard) {
     ModalDriver driver;
     driver.Answer(IDYES);
     Command(IDM_PASTE);
-    EXPECT_EQ(driver.seen, std::vector<std::string>{"Rhomba|M\xF6" "chten Sie ein automatisch generiertes "
-                                                    "Textobjekte einf\xFC" "gen?"});
+    EXPECT_EQ(driver.seen, std::vector<std::string>{"Rhomba|M\xF6"
+                                                    "chten Sie ein automatisch generiertes "
+                                                    "Textobjekte einf\xFC"
+                                                    "gen?"});
     ASSERT_EQ(layer.ChildCount(), 3u);
     EXPECT_EQ(layer.ChildAt(2)->GetName(), "importierter Text");
 }

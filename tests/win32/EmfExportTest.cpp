@@ -77,8 +77,9 @@ TEST(EmfExport, ConvertedByTheCliWithPathsPensAndText) {
     reporter.messages.clear();
     const std::string nowhere = "Q:\\kein\\Ordner\\da\\x.emf";
     EXPECT_FALSE(WriteEmfFile(document, nowhere, nullptr, reporter));
-    EXPECT_EQ(reporter.messages, std::vector<std::string>{nowhere + " konnte nicht zum Schreiben ge\xF6"
-                                                                  "ffnet werden."});
+    EXPECT_EQ(reporter.messages,
+              std::vector<std::string>{nowhere + " konnte nicht zum Schreiben ge\xF6"
+                                                 "ffnet werden."});
     RestoreProcessStartDeviceState();
 }
 

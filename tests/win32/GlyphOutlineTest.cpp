@@ -30,8 +30,10 @@ TEST(GlyphOutlineTest, SystemOutlinesAreTheFreeTypeRecords) {
     const std::u16string chosen = source.ChosenFaceName({"Arial", false, false});
     EXPECT_TRUE(chosen == u"Arial" || chosen == u"Liberation Sans") << chosen.size();
     for (const KeptGlyph& kept : kFreeTypeGlyphs) {
-        SCOPED_TRACE(std::to_string(kept.code) + (kept.bold ? " bold" : "") + (kept.italic ? " italic" : ""));
-        const Glyph* glyph = source.GetGlyph({kept.face, kept.bold, kept.italic}, static_cast<char16_t>(kept.code));
+        SCOPED_TRACE(std::to_string(kept.code) + (kept.bold ? " bold" : "") +
+                     (kept.italic ? " italic" : ""));
+        const Glyph* glyph =
+            source.GetGlyph({kept.face, kept.bold, kept.italic}, static_cast<char16_t>(kept.code));
         ASSERT_NE(glyph, nullptr);
         EXPECT_EQ(glyph->cellIncrementX, kept.cellIncrementX);
         // The Linux source widens the 26.6 values exactly as the system does.

@@ -52,7 +52,8 @@ TEST_F(PropertiesPanel, ShowsThePagesOfTheSelectionWithoutTakingTheKeyboard) {
     EXPECT_EQ(ModalDriver::Text(PropertiesPanelFrame()), "Pfad - Eigenschaften");
     EXPECT_TRUE(Shown(IDD_PANEL_STYLE) && Shown(IDD_PANEL_POINTS));
     EXPECT_EQ(Text(IDD_PANEL_STYLE, IDC_PANEL_PEN_WIDTH), "0,25");
-    EXPECT_EQ(Text(IDD_PANEL_POINTS, IDC_PANEL_POINTS), "M 0 0\r\nL 10 0\r\nL 10 10\r\nL 0 10 Z\r\n");
+    EXPECT_EQ(Text(IDD_PANEL_POINTS, IDC_PANEL_POINTS),
+              "M 0 0\r\nL 10 0\r\nL 10 10\r\nL 0 10 Z\r\n");
 
     // Hidden and shown again through the menu entry, catching up with the selection on the way,
     // still without the keyboard.

@@ -63,12 +63,14 @@ void Play(FieldDialog<Model>& dialog, const Steps& steps) {
 // controls of dialog, read through fields.
 std::string Snapshot(HWND dialog, const DialogFields& fields) {
     std::string shown;
-    for (HWND child = ::GetWindow(dialog, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
         wchar_t kind[16] = {};
         ::GetClassNameW(child, kind, 16);
         const int id = ::GetDlgCtrlID(child);
         if (std::wstring(kind) == L"Edit") shown += " '" + fields.GetText(id) + "'";
-        if (std::wstring(kind) == L"Button") shown += fields.IsEnabled(id) ? fields.IsChecked(id) ? " x" : " o" : " -";
+        if (std::wstring(kind) == L"Button")
+            shown += fields.IsEnabled(id) ? fields.IsChecked(id) ? " x" : " o" : " -";
     }
     return shown;
 }
@@ -76,7 +78,8 @@ std::string Snapshot(HWND dialog, const DialogFields& fields) {
 // Plays the steps on the model over in-memory fields, applies its OK to document when ok, and
 // returns the snapshot of the fields before OK for the controls of dialog.
 template <typename Model>
-std::string Reference(HWND dialog, Document& document, DialogMemory memory, const Steps& steps, bool ok) {
+std::string Reference(HWND dialog, Document& document, DialogMemory memory, const Steps& steps,
+                      bool ok) {
     FieldDialog<Model> reference(memory);
     Play(reference, steps);
     const std::string shown = Snapshot(dialog, reference.fields);
@@ -134,7 +137,8 @@ protected:
             Play(dialog, steps);
             WindowFields fields;
             fields.dialog = dialog;
-            EXPECT_EQ(Snapshot(dialog, fields), c.reference(dialog, expected, memory, steps, ending == Ending::Ok));
+            EXPECT_EQ(Snapshot(dialog, fields),
+                      c.reference(dialog, expected, memory, steps, ending == Ending::Ok));
             if (ending == Ending::Escape) {
                 ::PostMessageW(::GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
             } else if (ending == Ending::CloseBox) {
@@ -164,8 +168,12 @@ TEST_F(TransformDialogs, OkGivesTheModelsDrawingAndTheFieldsFollowTyping) {
         {IDM_MOVE, {{IDC_MOVE_X, "1,5.2"}, {IDC_MOVE_Y, "-5,5 mm"}}},
         {IDM_CYLINDER, {{IDC_CYLINDER_ANGLE, "400"}, {IDC_FORESHORTEN}}},
         // The second Y is disabled once Y is the first axis: its click does nothing.
-        {IDM_PLANE, {{IDC_PLANE_ZY}, {IDC_PLANE_FIRST_Y}, {IDC_PLANE_SECOND_Y}, {IDC_PLANE_FIRST_ANGLE, "370"},
-                     {IDC_PLANE_SECOND_ANGLE, "nan"}}},
+        {IDM_PLANE,
+         {{IDC_PLANE_ZY},
+          {IDC_PLANE_FIRST_Y},
+          {IDC_PLANE_SECOND_Y},
+          {IDC_PLANE_FIRST_ANGLE, "370"},
+          {IDC_PLANE_SECOND_ANGLE, "nan"}}},
         {IDM_POLYGON, {{IDC_POLYGON_CORNERS, "6"}, {IDC_POLYGON_PIE}, {IDC_POLYGON_RIGHT}}},
         {IDM_POLYGON, {{IDC_POLYGON_RADIUS, "0,5"}}}, // OK disabled: nothing added
         {IDM_CIRCLE, {{IDC_CIRCLE_RADIUS, "15"}, {IDC_CIRCLE_END, "300"}, {IDC_CIRCLE_SPOKES}}},

@@ -33,7 +33,8 @@ PathObject* NodePath(StepContext& context) {
 
 // A grayed menu entry does nothing; the run goes on.
 bool Grayed(StepContext& context, std::string_view entry) {
-    context.reporter.Inform("rhomba-cli: node " + std::string(entry) + " is not available for this selection");
+    context.reporter.Inform("rhomba-cli: node " + std::string(entry) +
+                            " is not available for this selection");
     return true;
 }
 
@@ -60,23 +61,27 @@ bool RunNodes(StepContext& context, StepWords words) {
     for (std::size_t i = 0; i < path->NodeCount(); ++i) {
         path->SetType(i, static_cast<NodeType>(path->TypeAt(i) & ~node::kSelected));
     }
-    for (std::size_t i : chosen) path->SetType(i, static_cast<NodeType>(path->TypeAt(i) | node::kSelected));
+    for (std::size_t i : chosen)
+        path->SetType(i, static_cast<NodeType>(path->TypeAt(i) | node::kSelected));
     return true;
 }
 
 bool RunNode(StepContext& context, StepWords words) {
     if (words.empty()) return Tell(context, "node needs an operation");
     const std::string_view op = words[0];
-    const bool known = op == "add" || op == "join-line" || op == "join-intersection" || op == "delete" ||
-                       op == "split" || op == "to-curve" || op == "to-line" || op == "reduce";
+    const bool known = op == "add" || op == "join-line" || op == "join-intersection" ||
+                       op == "delete" || op == "split" || op == "to-curve" || op == "to-line" ||
+                       op == "reduce";
     if (!known) return Tell(context, "unknown node operation " + std::string(op));
 
     double x = 0, y = 0;
     unsigned long long index = 0;
-    if (op == "add" && (words.size() != 3 || !ReadWholeNumber(words[1], x) || !ReadWholeNumber(words[2], y))) {
+    if (op == "add" &&
+        (words.size() != 3 || !ReadWholeNumber(words[1], x) || !ReadWholeNumber(words[2], y))) {
         return Tell(context, "node add needs X Y in points");
     }
-    if ((op == "to-curve" || op == "to-line") && (words.size() != 2 || !ReadWhole(words[1], index))) {
+    if ((op == "to-curve" || op == "to-line") &&
+        (words.size() != 2 || !ReadWhole(words[1], index))) {
         return Tell(context, "node " + std::string(op) + " needs a node index");
     }
 
@@ -108,7 +113,8 @@ bool RunNode(StepContext& context, StepWords words) {
         SplitAtSelectedNodes(*path);
     } else if (op == "to-curve") {
         if (index >= path->NodeCount() || !ConvertToCurve(*path, static_cast<std::size_t>(index))) {
-            context.reporter.Inform("rhomba-cli: node " + std::to_string(index) + " ends no straight segment");
+            context.reporter.Inform("rhomba-cli: node " + std::to_string(index) +
+                                    " ends no straight segment");
         }
     } else if (op == "to-line") {
         if (index >= path->NodeCount() || !ConvertToLine(*path, static_cast<std::size_t>(index))) {

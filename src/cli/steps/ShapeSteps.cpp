@@ -99,10 +99,12 @@ const std::vector<Step>& ShapeSteps() {
     static const std::vector<Step> steps = {
         {"sine", "sine AMPLITUDE START END AXES(0|1) TICKS(0|1)", RunSine, Takes<5>},
         {"circle", "circle RADIUS START END SPOKES(0|1) CENTRE(0|1)", RunCircle, Takes<5>},
-        {"polygon", "polygon CORNERS RADIUS top|right|bottom|left PIE(0|1) SPOKES(0|1) OUTLINE(0|1)",
+        {"polygon",
+         "polygon CORNERS RADIUS top|right|bottom|left PIE(0|1) SPOKES(0|1) OUTLINE(0|1)",
          RunPolygon, Takes<6>},
-        {"spiral", "spiral MAXRADIUS GROWTH archimedisch|logarithmisch (GROWTH: mm per turn, or "
-                   "the factor per turn)",
+        {"spiral",
+         "spiral MAXRADIUS GROWTH archimedisch|logarithmisch (GROWTH: mm per turn, or "
+         "the factor per turn)",
          RunSpiral, Takes<3>},
     };
     return steps;

@@ -111,7 +111,8 @@ bool RunPlane(StepContext& context, StepWords words) {
 
 const std::vector<Step>& TransformSteps() {
     static const std::vector<Step> steps = {
-        {"iso", "iso links|rechts|oben1|oben2|zurueck-links|zurueck-rechts|zurueck-oben1|zurueck-oben2",
+        {"iso",
+         "iso links|rechts|oben1|oben2|zurueck-links|zurueck-rechts|zurueck-oben1|zurueck-oben2",
          RunIso, Takes<1>},
         {"rotate", "rotate ANGLE cw|ccw", RunRotate, Takes<2>},
         {"stretch", "stretch XPERCENT YPERCENT", RunStretch, Takes<2>},

@@ -69,7 +69,8 @@ std::string_view KindTitle(ObjectKind kind) {
 // A field's text made into one command line: line ends would start a second command.
 std::string OneLine(std::string_view text, char replacement) {
     std::string line(text);
-    std::replace_if(line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, replacement);
+    std::replace_if(
+        line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, replacement);
     return line;
 }
 
@@ -109,7 +110,9 @@ void PutEnabled(DialogFields& page, int id, bool on) {
 
 } // namespace
 
-std::string PenWidthCommand(std::string_view typed) { return "SetPenWidth " + FormatG(ReadNumber(typed)); }
+std::string PenWidthCommand(std::string_view typed) {
+    return "SetPenWidth " + FormatG(ReadNumber(typed));
+}
 
 std::string DashCommand(const std::array<std::string, 8>& typed) {
     std::string line = "SetDashDot";
@@ -163,7 +166,8 @@ PanelLayout LayoutFor(const Document& document) {
         return layout;
     }
     layout.editable = true;
-    const ObjectKind single = selection.size() == 1 ? selection.front()->GetKind() : ObjectKind::Graphic;
+    const ObjectKind single =
+        selection.size() == 1 ? selection.front()->GetKind() : ObjectKind::Graphic;
     layout.title = selection.size() == 1 ? KindTitle(single) : "mehrere";
 
     bool paths = false, texts = false;
@@ -199,7 +203,8 @@ PanelLayout PanelModel::Refresh() {
     const auto* text = static_cast<const TextObject*>(SingleSelected(document_, ObjectKind::Text));
     Put(Page(kPageText), IDC_PANEL_TEXT, text != nullptr ? text->GetText() : std::string());
     const GraphicObject* hotspot = SingleSelected(document_, ObjectKind::Hotspot);
-    Put(Page(kPageHotspot), IDC_PANEL_HOTSPOT_NAME, hotspot != nullptr ? hotspot->GetName() : std::string());
+    Put(Page(kPageHotspot), IDC_PANEL_HOTSPOT_NAME,
+        hotspot != nullptr ? hotspot->GetName() : std::string());
     --writing_;
 
     dashChanged_.fill(false);
@@ -229,13 +234,16 @@ void PanelModel::FillStyle(bool editable) {
         first->GetDashDot(dash);
         colours_ = {first->GetStrokeColor(), first->GetFillColor()};
     }
-    Put(page, IDC_PANEL_PEN_WIDTH, first != nullptr ? ShowNumber(first->GetPenWidth()) : std::string());
+    Put(page, IDC_PANEL_PEN_WIDTH,
+        first != nullptr ? ShowNumber(first->GetPenWidth()) : std::string());
     PutCheck(page, IDC_PANEL_STROKE, first != nullptr && first->HasStroke());
     PutCheck(page, IDC_PANEL_FILL, first != nullptr && first->HasFill());
     for (int i = 0; i < kDashFields; ++i) {
-        Put(page, IDC_PANEL_DASH_FIRST + i, first != nullptr ? std::to_string(dash[i]) : std::string());
+        Put(page, IDC_PANEL_DASH_FIRST + i,
+            first != nullptr ? std::to_string(dash[i]) : std::string());
     }
-    for (int id = IDC_PANEL_PEN_WIDTH; id <= IDC_PANEL_DASH_LAST; ++id) PutEnabled(page, id, editable);
+    for (int id = IDC_PANEL_PEN_WIDTH; id <= IDC_PANEL_DASH_LAST; ++id)
+        PutEnabled(page, id, editable);
     page.Invalidate(IDC_PANEL_STROKE_COLOUR);
     page.Invalidate(IDC_PANEL_FILL_COLOUR);
 }
@@ -274,7 +282,8 @@ void PanelModel::OnCommand(int page, int id, int code) {
         if (id == IDC_PANEL_TEXT && changed) Apply(TextCommand(Page(kPageText).GetText(id)));
         break;
     case kPageHotspot:
-        if (id == IDC_PANEL_HOTSPOT_NAME && changed) Apply(NameCommand(Page(kPageHotspot).GetText(id)));
+        if (id == IDC_PANEL_HOTSPOT_NAME && changed)
+            Apply(NameCommand(Page(kPageHotspot).GetText(id)));
         break;
     default:
         break;
@@ -306,7 +315,8 @@ void PanelModel::OnFont(int id, int code) {
     DialogFields& page = Page(kPageFont);
     if (id == IDC_PANEL_BOLD || id == IDC_PANEL_ITALIC) {
         if (code == kButtonClicked) {
-            Apply(TextStyleCommand(page.IsChecked(IDC_PANEL_BOLD), page.IsChecked(IDC_PANEL_ITALIC)));
+            Apply(
+                TextStyleCommand(page.IsChecked(IDC_PANEL_BOLD), page.IsChecked(IDC_PANEL_ITALIC)));
         }
     } else if (id == IDC_PANEL_TEXT_SIZE || id == IDC_PANEL_FONT_NAME) {
         bool& changed = id == IDC_PANEL_TEXT_SIZE ? sizeChanged_ : fontChanged_;
@@ -339,7 +349,8 @@ void PanelModel::ApplyDash(int field) {
 void PanelModel::ApplyPoints() {
     pointsChanged_ = false;
     auto* path = static_cast<PathObject*>(SingleSelected(document_, ObjectKind::Path));
-    const bool applied = path != nullptr && ApplyPointList(*path, Page(kPagePoints).GetText(IDC_PANEL_POINTS));
+    const bool applied =
+        path != nullptr && ApplyPointList(*path, Page(kPagePoints).GetText(IDC_PANEL_POINTS));
     ++writing_;
     Page(kPagePoints).SetText(IDC_PANEL_POINTS_STATE, applied ? kPointsApplied : kPointsFailed);
     --writing_;
@@ -352,7 +363,8 @@ void PanelModel::ColourChosen(ColourButton button, std::optional<ColorRef> colou
         return;
     }
     colours_[button] = *colour & kColourMask;
-    Page(kPageStyle).Invalidate(button == kFillButton ? IDC_PANEL_FILL_COLOUR : IDC_PANEL_STROKE_COLOUR);
+    Page(kPageStyle)
+        .Invalidate(button == kFillButton ? IDC_PANEL_FILL_COLOUR : IDC_PANEL_STROKE_COLOUR);
     Apply(ColourCommand(button == kFillButton, colours_[button]));
 }
 

@@ -14,7 +14,8 @@ namespace rhomba {
 std::string WindowFields::GetText(int id) const {
     HWND control = ::GetDlgItem(dialog, id);
     std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(control)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(::GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
+    text.resize(static_cast<std::size_t>(
+        ::GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
     return Narrow(text);
 }
 
@@ -22,18 +23,26 @@ void WindowFields::SetText(int id, std::string_view text) {
     ::SetDlgItemTextW(dialog, id, Wide(std::string(text)).c_str());
 }
 
-bool WindowFields::IsChecked(int id) const { return ::IsDlgButtonChecked(dialog, id) == BST_CHECKED; }
+bool WindowFields::IsChecked(int id) const {
+    return ::IsDlgButtonChecked(dialog, id) == BST_CHECKED;
+}
 
 void WindowFields::SetChecked(int id, bool on) {
     ::CheckDlgButton(dialog, id, on ? BST_CHECKED : BST_UNCHECKED);
 }
 
-bool WindowFields::IsEnabled(int id) const { return ::IsWindowEnabled(::GetDlgItem(dialog, id)) != FALSE; }
+bool WindowFields::IsEnabled(int id) const {
+    return ::IsWindowEnabled(::GetDlgItem(dialog, id)) != FALSE;
+}
 
-void WindowFields::Enable(int id, bool on) { ::EnableWindow(::GetDlgItem(dialog, id), on ? TRUE : FALSE); }
+void WindowFields::Enable(int id, bool on) {
+    ::EnableWindow(::GetDlgItem(dialog, id), on ? TRUE : FALSE);
+}
 
 // Owner-drawn controls paint their whole field, so the background is not erased first.
-void WindowFields::Invalidate(int id) { ::InvalidateRect(::GetDlgItem(dialog, id), nullptr, FALSE); }
+void WindowFields::Invalidate(int id) {
+    ::InvalidateRect(::GetDlgItem(dialog, id), nullptr, FALSE);
+}
 
 namespace {
 
@@ -121,8 +130,9 @@ INT_PTR CALLBACK ModelDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARA
 bool RunModelDialog(HWND owner, int templateId, const DialogModelFactory& factory,
                     Document& document) {
     ModelDialogState state{factory, document, {}, nullptr, nullptr};
-    const INT_PTR result = ::DialogBoxParamW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), owner,
-                                             ModelDialogProc, reinterpret_cast<LPARAM>(&state));
+    const INT_PTR result =
+        ::DialogBoxParamW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), owner,
+                          ModelDialogProc, reinterpret_cast<LPARAM>(&state));
     return result == IDOK;
 }
 

@@ -41,7 +41,8 @@ HWND NextField(HWND edit, bool backwards) {
     return next != nullptr ? next : edit;
 }
 
-LRESULT CALLBACK EditKeysProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
+LRESULT CALLBACK EditKeysProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                              DWORD_PTR data) {
     HWND canvas = reinterpret_cast<HWND>(data);
     const bool multiline = (::GetWindowLongW(edit, GWL_STYLE) & ES_MULTILINE) != 0;
     switch (message) {
@@ -82,7 +83,8 @@ LRESULT CALLBACK EditKeysProc(HWND edit, UINT message, WPARAM wParam, LPARAM lPa
 
 } // namespace
 
-std::optional<ColorRef> ChooseColour(HWND owner, ColorRef colour, std::array<ColorRef, 16>& custom) {
+std::optional<ColorRef> ChooseColour(HWND owner, ColorRef colour,
+                                     std::array<ColorRef, 16>& custom) {
     CHOOSECOLORW choose{};
     choose.lStructSize = sizeof choose;
     choose.hwndOwner = owner;
@@ -133,7 +135,9 @@ void DrawColourButton(const DRAWITEMSTRUCT& item, ColorRef colour) {
         ::DeleteObject(fill);
         ::FrameRect(dc, &swatch, static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH)));
         // The dots stay readable on any colour.
-        const int light = (299 * (colour & 0xFF) + 587 * ((colour >> 8) & 0xFF) + 114 * ((colour >> 16) & 0xFF)) / 1000;
+        const int light =
+            (299 * (colour & 0xFF) + 587 * ((colour >> 8) & 0xFF) + 114 * ((colour >> 16) & 0xFF)) /
+            1000;
         ink = light < 128 ? RGB(255, 255, 255) : RGB(0, 0, 0);
     }
     wchar_t text[16] = {};

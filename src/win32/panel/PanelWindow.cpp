@@ -12,7 +12,9 @@ namespace {
 constexpr int kMargin = 4; // pixels between the frame and the canvas's edges
 constexpr UINT_PTR kPointListTimer = 1;
 
-PanelWindow* Owner(HWND window) { return reinterpret_cast<PanelWindow*>(::GetWindowLongPtrW(window, DWLP_USER)); }
+PanelWindow* Owner(HWND window) {
+    return reinterpret_cast<PanelWindow*>(::GetWindowLongPtrW(window, DWLP_USER));
+}
 
 BOOL CALLBACK KeepKeysOfEdit(HWND control, LPARAM canvas) {
     KeepEditKeys(control, reinterpret_cast<HWND>(canvas));
@@ -34,8 +36,8 @@ PanelWindow::PanelWindow(HWND owner, HWND canvas, Document& document, std::funct
                                   reinterpret_cast<LPARAM>(this));
     if (frame_ == nullptr) return;
     for (int page = 0; page < kPanelPageCount; ++page) {
-        pages_[page] = ::CreateDialogParamW(instance, MAKEINTRESOURCEW(kPanelPageTemplates[page]), frame_,
-                                            PageProc, reinterpret_cast<LPARAM>(this));
+        pages_[page] = ::CreateDialogParamW(instance, MAKEINTRESOURCEW(kPanelPageTemplates[page]),
+                                            frame_, PageProc, reinterpret_cast<LPARAM>(this));
         ::SetWindowLongPtrW(pages_[page], GWLP_ID, kPanelPageTemplates[page]);
         heights_[page] = Height(pages_[page]);
         fields_[page].dialog = pages_[page];
@@ -46,7 +48,8 @@ PanelWindow::PanelWindow(HWND owner, HWND canvas, Document& document, std::funct
     // The hotspot's picture: the hand that a click on a hotspot brings.
     HWND icon = ::GetDlgItem(pages_[kPageHotspot], IDC_PANEL_HOTSPOT_ICON);
     ::MoveWindow(icon, 100, 100, 32, 32, FALSE);
-    ::SendMessageW(icon, STM_SETICON, reinterpret_cast<WPARAM>(::LoadCursorW(nullptr, IDC_HAND)), 0);
+    ::SendMessageW(icon, STM_SETICON, reinterpret_cast<WPARAM>(::LoadCursorW(nullptr, IDC_HAND)),
+                   0);
 
     model_ = std::make_unique<PanelModel>(
         document,
@@ -91,7 +94,8 @@ void PanelWindow::Refresh() {
     Stack(layout);
     // A timer's message comes after the paint: the drawing shows first, the long list after it.
     if (layout.shown[kPagePoints]) ::SetTimer(frame_, kPointListTimer, 0, nullptr);
-    const std::string caption = layout.title.empty() ? "Eigenschaften" : layout.title + " - Eigenschaften";
+    const std::string caption =
+        layout.title.empty() ? "Eigenschaften" : layout.title + " - Eigenschaften";
     if (caption != caption_) ::SetWindowTextW(frame_, Wide(caption).c_str());
     caption_ = caption;
 }
@@ -101,7 +105,8 @@ void PanelWindow::Stack(const PanelLayout& layout) {
     RECT client{};
     ::GetClientRect(frame_, &client);
     int below = 0; // the heights of the shown pages after the coordinates page
-    for (int page = kPagePoints + 1; page < kPanelPageCount; ++page) below += layout.shown[page] ? heights_[page] : 0;
+    for (int page = kPagePoints + 1; page < kPanelPageCount; ++page)
+        below += layout.shown[page] ? heights_[page] : 0;
     int y = 0;
     for (int page = 0; page < kPanelPageCount; ++page) {
         if (!layout.shown[page]) {
@@ -115,7 +120,8 @@ void PanelWindow::Stack(const PanelLayout& layout) {
             RECT box{};
             ::GetWindowRect(edit, &box);
             ::MapWindowPoints(nullptr, pages_[page], reinterpret_cast<POINT*>(&box), 2);
-            ::MoveWindow(edit, box.left, box.top, box.right - box.left, height - box.top - kMargin, TRUE);
+            ::MoveWindow(edit, box.left, box.top, box.right - box.left, height - box.top - kMargin,
+                         TRUE);
         }
         ::SetWindowPos(pages_[page], nullptr, 0, y, client.right, height,
                        SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
@@ -128,12 +134,16 @@ void PanelWindow::ReturnFocus() const {
 }
 
 void PanelWindow::OnPageCommand(int page, int id, int code) {
-    if (page == kPageStyle && code == BN_CLICKED && (id == IDC_PANEL_STROKE_COLOUR || id == IDC_PANEL_FILL_COLOUR)) {
-        const auto button = id == IDC_PANEL_FILL_COLOUR ? PanelModel::kFillButton : PanelModel::kStrokeButton;
-        model_->ColourChosen(button, ChooseColour(::GetAncestor(frame_, GA_ROOT), model_->Colour(button), model_->CustomColours()));
+    if (page == kPageStyle && code == BN_CLICKED &&
+        (id == IDC_PANEL_STROKE_COLOUR || id == IDC_PANEL_FILL_COLOUR)) {
+        const auto button =
+            id == IDC_PANEL_FILL_COLOUR ? PanelModel::kFillButton : PanelModel::kStrokeButton;
+        model_->ColourChosen(button, ChooseColour(::GetAncestor(frame_, GA_ROOT),
+                                                  model_->Colour(button), model_->CustomColours()));
         ReturnFocus();
     } else if (page == kPageFont && code == BN_CLICKED && id == IDC_PANEL_FONT_CHOOSE) {
-        if (auto choice = ChooseFontFor(::GetAncestor(frame_, GA_ROOT), model_->ShownFont())) model_->FontChosen(*choice);
+        if (auto choice = ChooseFontFor(::GetAncestor(frame_, GA_ROOT), model_->ShownFont()))
+            model_->FontChosen(*choice);
         ReturnFocus();
     } else {
         model_->OnCommand(page, id, code);
@@ -195,7 +205,8 @@ INT_PTR CALLBACK PanelWindow::PageProc(HWND page, UINT message, WPARAM wParam, L
         return TRUE;
     case WM_DRAWITEM: {
         const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-        const auto button = item.CtlID == IDC_PANEL_FILL_COLOUR ? PanelModel::kFillButton : PanelModel::kStrokeButton;
+        const auto button = item.CtlID == IDC_PANEL_FILL_COLOUR ? PanelModel::kFillButton
+                                                                : PanelModel::kStrokeButton;
         DrawColourButton(item, panel->model_->Colour(button));
         return TRUE;
     }

@@ -59,9 +59,9 @@ std::optional<ColorRef> ChooseColour(HWND owner, ColorRef colour, std::array<Col
 std::optional<FontChoice> ChooseFontFor(HWND owner, const FontChoice& shown);
 // Paints an owner-drawn colour button: its edge, a swatch of colour when enabled, its text.
 void DrawColourButton(const DRAWITEMSTRUCT& item, ColorRef colour);
-// Gives an edit field of the panel (other controls are left alone) the keys a dialog would: Enter and Escape hand the keyboard
-// back to canvas (which applies the field), Tab moves on; the edit keys that are also the
-// editor's accelerators reach the field again.
+// Gives an edit field of the panel (other controls are left alone) the keys a dialog would: Enter
+// and Escape hand the keyboard back to canvas (which applies the field), Tab moves on; the edit
+// keys that are also the editor's accelerators reach the field again.
 void KeepEditKeys(HWND edit, HWND canvas);
 
 } // namespace rhomba

@@ -46,13 +46,15 @@ void RegisterCanvasClass(HINSTANCE instance) {
 void CreateChildren(HWND main) {
     Shell& shell = TheShell();
     shell.main = main;
-    shell.palette = ::CreateDialogW(shell.instance, MAKEINTRESOURCEW(IDD_TOOLS), main, ToolPaletteProc);
-    shell.status = ::CreateDialogW(shell.instance, MAKEINTRESOURCEW(IDD_STATUS), main, StatusStripProc);
+    shell.palette =
+        ::CreateDialogW(shell.instance, MAKEINTRESOURCEW(IDD_TOOLS), main, ToolPaletteProc);
+    shell.status =
+        ::CreateDialogW(shell.instance, MAKEINTRESOURCEW(IDD_STATUS), main, StatusStripProc);
     RegisterCanvasClass(shell.instance);
     // The canvas paints around the properties panel that floats over it, never over it.
-    shell.canvas = ::CreateWindowExW(0, kCanvasClass, kCanvasClass, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS,
-                                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
-                                     main, nullptr, shell.instance, nullptr);
+    shell.canvas = ::CreateWindowExW(
+        0, kCanvasClass, kCanvasClass, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CW_USEDEFAULT,
+        CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, main, nullptr, shell.instance, nullptr);
     // "Kopieren" hands its text to this field, which puts it on the clipboard.
     shell.copyEdit = ::CreateWindowExW(0, L"EDIT", L"", WS_CHILD | ES_MULTILINE | ES_AUTOVSCROLL, 0,
                                        0, 0, 0, main, reinterpret_cast<HMENU>(IDC_COPY_EDIT),
@@ -78,8 +80,9 @@ void EnableEditMenu(HMENU popup) {
     Editor& editor = *TheShell().editor;
     for (int position = 0; position < ::GetMenuItemCount(popup); ++position) {
         const UINT id = ::GetMenuItemID(popup, position);
-        const CommandEnabling rule = position == POS_ISOMETRY_POPUP ? CommandEnabling::Selection
-                                                                    : EnablingOf(static_cast<int>(id));
+        const CommandEnabling rule = position == POS_ISOMETRY_POPUP
+                                         ? CommandEnabling::Selection
+                                         : EnablingOf(static_cast<int>(id));
         if (rule == CommandEnabling::Always) continue;
         const bool on = IsEnabledNow(editor, rule);
         ::EnableMenuItem(popup, position, MF_BYPOSITION | (on ? MF_ENABLED : MF_GRAYED));

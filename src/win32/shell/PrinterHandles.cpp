@@ -83,7 +83,8 @@ HDC PrinterHandles::CreatePrinterDc() {
     const int deviceLength = DeviceName(device, static_cast<int>(names + 128 - device));
     if (deviceLength < 1) return nullptr;
     char* port = device + std::strlen(device) + 1;
-    if (port >= names + 128 || OutputPort(port, static_cast<int>(names + 128 - port)) < 1) return nullptr;
+    if (port >= names + 128 || OutputPort(port, static_cast<int>(names + 128 - port)) < 1)
+        return nullptr;
     auto* mode = static_cast<DEVMODEA*>(::GlobalLock(devMode_));
     if (mode == nullptr) return nullptr;
     HDC printer = ::CreateDCA(driver, device, port, mode);

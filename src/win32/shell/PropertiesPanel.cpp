@@ -16,7 +16,8 @@ namespace {
 std::unique_ptr<PanelWindow> panel;
 
 PanelWindow* LivePanel() {
-    if (panel != nullptr && ::IsWindow(panel->Frame()) && ::GetParent(panel->Frame()) == TheShell().main) {
+    if (panel != nullptr && ::IsWindow(panel->Frame()) &&
+        ::GetParent(panel->Frame()) == TheShell().main) {
         return panel.get();
     }
     return nullptr;
@@ -34,7 +35,8 @@ void ShowPropertiesPanel(bool shown) {
     if (live == nullptr) {
         if (shell.main == nullptr || shell.editor == nullptr) return;
         panel.reset();
-        panel = std::make_unique<PanelWindow>(shell.main, shell.canvas, shell.editor->document, [] { Redraw(); });
+        panel = std::make_unique<PanelWindow>(shell.main, shell.canvas, shell.editor->document,
+                                              [] { Redraw(); });
         live = LivePanel();
         if (live == nullptr) return;
     }
@@ -51,7 +53,8 @@ void ShowPropertiesPanelAt(int screenX, int screenY) {
 
 void RefreshPropertiesPanel() {
     PanelWindow* live = LivePanel();
-    if (live != nullptr && (::GetWindowLongW(live->Frame(), GWL_STYLE) & WS_VISIBLE) != 0) live->Refresh();
+    if (live != nullptr && (::GetWindowLongW(live->Frame(), GWL_STYLE) & WS_VISIBLE) != 0)
+        live->Refresh();
 }
 
 HWND PropertiesPanelFrame() {

@@ -45,8 +45,10 @@ INT_PTR CALLBACK SettingsProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) 
     auto box = [dialog](int id) { return ::IsDlgButtonChecked(dialog, id) == BST_CHECKED; };
     switch (message) {
     case WM_INITDIALOG:
-        ::CheckDlgButton(dialog, IDC_SHOW_ISO_LINES, switches.isometricLines ? BST_CHECKED : BST_UNCHECKED);
-        ::CheckDlgButton(dialog, IDC_SHOW_CROSS, switches.coordinateCross ? BST_CHECKED : BST_UNCHECKED);
+        ::CheckDlgButton(dialog, IDC_SHOW_ISO_LINES,
+                         switches.isometricLines ? BST_CHECKED : BST_UNCHECKED);
+        ::CheckDlgButton(dialog, IDC_SHOW_CROSS,
+                         switches.coordinateCross ? BST_CHECKED : BST_UNCHECKED);
         ::CheckDlgButton(dialog, IDC_SHOW_PAGE, switches.pageFrame ? BST_CHECKED : BST_UNCHECKED);
         ShowPrinter(dialog);
         return TRUE;
@@ -107,7 +109,8 @@ INT_PTR CALLBACK AboutProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
             ::EndDialog(dialog, LOWORD(wParam));
             return TRUE;
         case IDC_ABOUT_HELP:
-            ::ShellExecuteA(TheShell().main, "open", HelpPagePath().c_str(), nullptr, nullptr, SW_SHOW);
+            ::ShellExecuteA(TheShell().main, "open", HelpPagePath().c_str(), nullptr, nullptr,
+                            SW_SHOW);
             return TRUE;
         }
         return FALSE;
@@ -117,7 +120,8 @@ INT_PTR CALLBACK AboutProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
 }
 
 INT_PTR Modal(HWND owner, int id, DLGPROC procedure) {
-    return ::DialogBoxParamW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(id), owner, procedure, 0);
+    return ::DialogBoxParamW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(id), owner, procedure,
+                             0);
 }
 
 } // namespace

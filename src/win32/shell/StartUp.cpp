@@ -83,7 +83,8 @@ void RegisterFileType(const std::wstring& programPath) {
     setDefault(type, kProductName);
     ::RegCloseKey(type);
     HKEY command = nullptr;
-    if (::RegCreateKeyW(HKEY_CLASSES_ROOT, L"Rhomba\\shell\\open\\command", &command) != ERROR_SUCCESS) {
+    if (::RegCreateKeyW(HKEY_CLASSES_ROOT, L"Rhomba\\shell\\open\\command", &command) !=
+        ERROR_SUCCESS) {
         return;
     }
     setDefault(command, L"\"" + programPath + L"\" \"%1\"");

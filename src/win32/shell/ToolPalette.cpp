@@ -25,7 +25,8 @@ constexpr ToolButton kToolButtons[] = {
     {IDC_TOOL_RECT, IDI_TOOL_RECT, 6},     {IDC_TOOL_ELLIPSE, IDI_TOOL_ELLIPSE, 7},
 };
 
-constexpr int kZoomSteps[] = {10, 25, 50, 75, 100, 150, 200, 300, 400, 500, 700, 1000, 2000, 4000, 6000};
+constexpr int kZoomSteps[] = {10,  25,  50,  75,   100,  150,  200, 300,
+                              400, 500, 700, 1000, 2000, 4000, 6000};
 
 int ZoomPercent() {
     return static_cast<int>(TheShell().editor->document.view.zoom * 100 + 0.5);
@@ -46,7 +47,8 @@ void PutIcons(HWND palette) {
         const int size = std::max(16, std::min<int>(box.right, box.bottom) - 6);
         HANDLE icon = ::LoadImageW(TheShell().instance, MAKEINTRESOURCEW(button.icon), IMAGE_ICON,
                                    size, size, LR_DEFAULTCOLOR);
-        if (icon != nullptr) ::SendMessageW(control, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));
+        if (icon != nullptr)
+            ::SendMessageW(control, BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon));
     }
 }
 

@@ -39,13 +39,17 @@ std::optional<std::string> FileDialog(const std::string& proposal, const char* f
 
 } // namespace
 
-void Win32ShellHost::Inform(std::string_view message) { ShowInfoMessage("%s", std::string(message).c_str()); }
+void Win32ShellHost::Inform(std::string_view message) {
+    ShowInfoMessage("%s", std::string(message).c_str());
+}
 
 bool Win32ShellHost::Ask(std::string_view question) {
     return ShowMessageBox(MB_YESNO | MB_ICONQUESTION, "%s", std::string(question).c_str()) == IDYES;
 }
 
-std::optional<std::string> Win32ShellHost::ChooseFileToOpen() { return FileDialog("", kDrawingFileFilter, false); }
+std::optional<std::string> Win32ShellHost::ChooseFileToOpen() {
+    return FileDialog("", kDrawingFileFilter, false);
+}
 
 std::optional<std::string> Win32ShellHost::ChooseFileToSave(const SaveDialogSpec& request) {
     return FileDialog(request.proposal, request.filter.c_str(), true);
@@ -53,21 +57,30 @@ std::optional<std::string> Win32ShellHost::ChooseFileToSave(const SaveDialogSpec
 
 bool Win32ShellHost::ClipboardHasText() { return ::IsClipboardFormatAvailable(CF_TEXT) != FALSE; }
 
-std::optional<ClipboardText> Win32ShellHost::ReadClipboard() { return ReadClipboardText(TheShell().main); }
+std::optional<ClipboardText> Win32ShellHost::ReadClipboard() {
+    return ReadClipboardText(TheShell().main);
+}
 
 void Win32ShellHost::WriteClipboard(const std::string& nativeText) {
     WriteClipboardDrawing(TheShell().main, TheShell().copyEdit, nativeText);
 }
 
-bool Win32ShellHost::RunModelDialog(int templateId, const DialogModelFactory& factory, Document& document) {
+bool Win32ShellHost::RunModelDialog(int templateId, const DialogModelFactory& factory,
+                                    Document& document) {
     return rhomba::RunModelDialog(TheShell().main, templateId, factory, document);
 }
 
-void Win32ShellHost::ExportMetafile() { ExportEmfCommand(TheShell().main, TheShell().editor->document, *this); }
+void Win32ShellHost::ExportMetafile() {
+    ExportEmfCommand(TheShell().main, TheShell().editor->document, *this);
+}
 
-void Win32ShellHost::RunPrintDialog() { RunPrintDialogBox(TheShell().main, TheShell().editor->document); }
+void Win32ShellHost::RunPrintDialog() {
+    RunPrintDialogBox(TheShell().main, TheShell().editor->document);
+}
 
-void Win32ShellHost::RunSettingsDialog() { RunSettingsDialogBox(TheShell().main, TheShell().editor->view.switches); }
+void Win32ShellHost::RunSettingsDialog() {
+    RunSettingsDialogBox(TheShell().main, TheShell().editor->view.switches);
+}
 
 void Win32ShellHost::RunAboutDialog() { RunAboutDialogBox(TheShell().main); }
 
@@ -76,7 +89,8 @@ bool Win32ShellHost::IsMenuChecked(int commandId) {
 }
 
 void Win32ShellHost::SetMenuChecked(int commandId, bool checked) {
-    ::CheckMenuItem(::GetMenu(TheShell().main), commandId, MF_BYCOMMAND | (checked ? MF_CHECKED : MF_UNCHECKED));
+    ::CheckMenuItem(::GetMenu(TheShell().main), commandId,
+                    MF_BYCOMMAND | (checked ? MF_CHECKED : MF_UNCHECKED));
 }
 
 void Win32ShellHost::ShowPanel(bool shown) { ShowPropertiesPanel(shown); }

@@ -18,7 +18,8 @@ public:
     std::optional<ClipboardText> ReadClipboard() override;
     void WriteClipboard(const std::string& nativeText) override;
 
-    bool RunModelDialog(int templateId, const DialogModelFactory& factory, Document& document) override;
+    bool RunModelDialog(int templateId, const DialogModelFactory& factory,
+                        Document& document) override;
     void ExportMetafile() override;
     void RunPrintDialog() override;
     void RunSettingsDialog() override;

@@ -39,7 +39,9 @@ protected:
         }
     }
     // A menu command, as choosing the entry sends it.
-    static void Command(int id) { ::SendMessageW(TheShell().main, WM_COMMAND, MAKEWPARAM(id, 0), 0); }
+    static void Command(int id) {
+        ::SendMessageW(TheShell().main, WM_COMMAND, MAKEWPARAM(id, 0), 0);
+    }
 
     static Editor& TheEditor() { return *TheShell().editor; }
     static Document& Doc() { return TheShell().editor->document; }

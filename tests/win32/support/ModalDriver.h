@@ -28,7 +28,9 @@ public:
     ModalDriver& operator=(const ModalDriver&) = delete;
 
     // Queues an action for the next dialog or message box, or with menu set, the next popup menu.
-    void Then(Action action, bool menu = false) { actions_.push_back({std::move(action), menu ? L"#32768" : L"#32770"}); }
+    void Then(Action action, bool menu = false) {
+        actions_.push_back({std::move(action), menu ? L"#32768" : L"#32770"});
+    }
     // Queues: pick the entry at position (separators not counted) of the next popup menu.
     void ChooseMenuEntry(int position) {
         Then([position](HWND menu) {
@@ -50,7 +52,8 @@ public:
     // The texts of the window's static children, joined by blanks (the message of a message box).
     static std::string Texts(HWND window) {
         std::string all;
-        for (HWND child = ::GetWindow(window, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        for (HWND child = ::GetWindow(window, GW_CHILD); child;
+             child = ::GetWindow(child, GW_HWNDNEXT)) {
             wchar_t kind[32] = {};
             ::GetClassNameW(child, kind, 32);
             const std::string text = std::wstring(kind) == L"Static" ? Text(child) : "";
@@ -66,7 +69,8 @@ public:
     static void Type(HWND window, int id, const std::wstring& text) {
         HWND edit = ::GetDlgItem(window, id);
         ::SendMessageW(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
-        ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, EN_CHANGE), reinterpret_cast<LPARAM>(edit));
+        ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(id, EN_CHANGE),
+                       reinterpret_cast<LPARAM>(edit));
     }
     // A window's text as the program's Windows-1252 bytes.
     static std::string Text(HWND window) {
@@ -84,8 +88,10 @@ private:
     static BOOL CALLBACK FindModal(HWND window, LPARAM found) {
         wchar_t kind[16] = {};
         ::GetClassNameW(window, kind, 16);
-        if (!::IsWindowVisible(window) || std::wstring(kind) != current_->actions_.front().windowClass ||
-            current_->handled_.count(window) || (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0)
+        if (!::IsWindowVisible(window) ||
+            std::wstring(kind) != current_->actions_.front().windowClass ||
+            current_->handled_.count(window) ||
+            (::GetWindowLongW(window, GWL_STYLE) & WS_CHILD) != 0)
             return TRUE;
         *reinterpret_cast<HWND*>(found) = window;
         return FALSE;
@@ -95,7 +101,8 @@ private:
         ModalDriver* driver = current_;
         if (driver == nullptr || driver->actions_.empty() || driver->busy_) return;
         HWND found = nullptr;
-        ::EnumThreadWindows(::GetCurrentThreadId(), &ModalDriver::FindModal, reinterpret_cast<LPARAM>(&found));
+        ::EnumThreadWindows(::GetCurrentThreadId(), &ModalDriver::FindModal,
+                            reinterpret_cast<LPARAM>(&found));
         if (found == nullptr) return;
         driver->handled_.insert(found);
         Action action = std::move(driver->actions_.front().action);
