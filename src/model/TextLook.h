@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geometry/Matrix2D.h"
+#include "model/PathObject.h"
 #include "model/Types.h"
 
 #include <cstddef>
@@ -18,7 +19,7 @@ struct TextLook {
     std::uint32_t style = 0;
     std::uint32_t stroke = 0;      // stroke word: off, black
     std::uint32_t fill = kStyleOn; // fill word: on, black
-    double penWidth = 0.25;
+    double penWidth = PathObject::kDefaultPenWidth;
     DashDot dash{};
 };
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <tuple>
 
 namespace rhomba {
 namespace {
@@ -32,19 +33,17 @@ TEST(TextStorage, ShortAndLongTextsComeBackFromTheNativeFileUnchanged) {
         Document written;
         auto owned = std::make_unique<TextObject>();
         owned->SetText(text);
-        owned->SetName("named");
         written.CurrentLayer().InsertAt(std::move(owned), &written, 0, 0);
         const std::string file = SaveNativeText(written);
         Document read;
         ASSERT_TRUE(ParseNative(read, file, false));
         const auto& back = static_cast<const TextObject&>(*read.CurrentLayer().ChildAt(0));
         EXPECT_EQ(back.GetText(), text);
-        EXPECT_EQ(back.GetName(), "named");
         EXPECT_EQ(SaveNativeText(read), file);
     }
 }
 
-TEST(TextStorage, ASetterChangesOnlyItsOwnTextsLook) {
+TEST(TextStorage, ASetterChangesItsOwnTextAndOutlineOnly) {
     const std::function<void(TextObject&)> setters[] = {
         [](TextObject& t) { t.SetTextFont("Courier New"); },
         [](TextObject& t) { t.SetBold(true); },
@@ -54,17 +53,18 @@ TEST(TextStorage, ASetterChangesOnlyItsOwnTextsLook) {
         [](TextObject& t) { t.SetPenWidth(3); },
         [](TextObject& t) { t.SetDashDot({4, 1, 0, 0, 0, 0, 0, 0}); },
     };
+    const auto paint = [](const GraphicObject& object) {
+        return std::tuple(object.HasStroke(), object.GetFillColor(), object.GetPenWidth(),
+                          object.GetDashCount());
+    };
     for (const auto& set : setters) {
         TextObject untouched, changed;
-        untouched.Outline(); // a built outline too keeps its own paint
+        changed.Outline(); // an outline built before the change takes the new paint
         set(changed);
-        EXPECT_EQ(untouched.GetFont(), "Arial");
-        EXPECT_FALSE(untouched.IsBold());
-        EXPECT_EQ(untouched.GetTextTransform(), Matrix2D{});
-        EXPECT_FALSE(untouched.HasStroke() || untouched.Outline().HasStroke());
-        EXPECT_EQ(untouched.Outline().GetFillColor(), 0u);
-        EXPECT_EQ(untouched.Outline().GetPenWidth(), 0.25);
-        EXPECT_EQ(untouched.Outline().GetDashCount(), 0);
+        EXPECT_EQ(paint(changed.Outline()), paint(changed));
+        EXPECT_EQ(paint(untouched), std::tuple(false, 0u, 0.25, 0));
+        EXPECT_EQ(std::tuple(untouched.GetFont(), untouched.IsBold(), untouched.GetTextTransform()),
+                  std::tuple(std::string("Arial"), false, Matrix2D{}));
     }
 }
 
