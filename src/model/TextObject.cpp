@@ -7,6 +7,9 @@
 
 namespace rhomba {
 
+// Ten million short texts must fit in a gigabyte: 72 bytes take an 80-byte heap chunk.
+static_assert(sizeof(TextObject) <= 72);
+
 void TextObject::Describe(std::string& out) const {
     char text[48];
     std::snprintf(text, sizeof text, "Text mit %d Zeichen", static_cast<int>(GetText().size()));

@@ -81,7 +81,8 @@ public:
     void RefreshOutline();
     // The sum of the glyph advances, scaled like the outline (as of the last refresh).
     double GetWidth() const;
-    // The end of the baseline: the advance mapped through the outline matrix.
+    // The end of the baseline: the advance mapped through the outline matrix (the position
+    // itself until an outline is first built).
     Point2 GetEndPoint() const;
 
     // The text the outline was last built from; empty when the outline is stale.
@@ -91,7 +92,7 @@ public:
 private:
     const TextLook& Look() const { return look_.Get(); }
     // Moves to the look that change makes of the current one; a change of the glyphs marks the
-    // outline stale, a change of paint restyles the outline.
+    // outline stale, and a built outline takes the new look's paint either way.
     template <class Change>
     void ChangeLook(bool glyphs, Change change);
     void Invalidate();
