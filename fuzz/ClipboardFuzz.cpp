@@ -39,8 +39,8 @@ void RequireOnlyImportedTexts(Document& document) {
     for (std::size_t i = 0; i < group.ChildCount(); ++i) {
         const GraphicObject* child = group.ChildAt(i);
         Require(child->GetKind() == ObjectKind::Text, "an import holds texts only");
-        const std::string& text = static_cast<const TextObject*>(child)->GetText();
-        Require(!text.empty() && text.find_first_of("\t\r\n") == std::string::npos,
+        const std::string_view text = static_cast<const TextObject*>(child)->GetText();
+        Require(!text.empty() && text.find_first_of("\t\r\n") == std::string_view::npos,
                 "an imported line is one text without tabs or line ends");
     }
 }

@@ -18,7 +18,7 @@ std::string_view SvgFontFamily(const std::string& face) {
 
 void TextObject::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
     // An empty text is invisible and has no direction; it is left out as in the native file.
-    if (text_.empty()) return;
+    if (GetText().empty()) return;
     RefreshOutline();
 
     out.Indent(depth);
@@ -33,7 +33,7 @@ void TextObject::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
     out.Append(") ");
 
     // The baseline's direction in the drawing; SVG turns clockwise, hence the sign.
-    const Point2 direction = endPoint_ - position_;
+    const Point2 direction = GetEndPoint() - position_;
     const double degrees = VectorAngle(direction.x, direction.y) * 180.0 / 3.141592653589793;
     if (degrees >= 0.1 || degrees <= -0.1) {
         out.Append("rotate(");
@@ -42,22 +42,22 @@ void TextObject::ExportSvg(SvgWriter& out, const Matrix2D& matrix, int depth) {
     }
     // The font is always written at size 16 and brought to size by the scale.
     out.Append("scale(");
-    out.Rounded(size_ / 16, 2);
+    out.Rounded(GetSize() / 16, 2);
     out.Append(")\"");
 
     out.Append(" style=\"font-family: ");
-    out.EscapedAttribute(SvgFontFamily(font_));
+    out.EscapedAttribute(SvgFontFamily(GetFont()));
     out.Append("; font-size: 16; ");
     if (IsItalic()) out.Append("font-style: italic; ");
     if (IsBold()) out.Append("font-weight: bold; ");
     DashDot dash{};
     GetDashDot(dash);
     out.StrokeStyle(HasStroke(), GetStrokeColor(), GetPenWidth(), dash, GetDashCount(),
-                    size_ / 16);
+                    GetSize() / 16);
     out.FillStyle(HasFill(), GetFillColor());
     out.TrimTrailingBlanks();
     out.Append("\">");
-    out.Escaped(text_);
+    out.Escaped(GetText());
     out.Append("</text>\r\n");
 }
 

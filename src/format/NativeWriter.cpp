@@ -147,7 +147,7 @@ void PathObject::SaveNative(NativeWriter& out, bool reset) {
 void TextObject::SaveNative(NativeWriter& out, bool reset) {
     NativeStyle& style = out.Style();
     if (reset) style.Reset();
-    if (text_.empty()) return;
+    if (GetText().empty()) return;
     out.Newline();
     if (!GetName().empty()) {
         out.Append("TextObject ");
@@ -161,28 +161,29 @@ void TextObject::SaveNative(NativeWriter& out, bool reset) {
         GetDashDot(dash);
         out.StrokeLines(GetStrokeColor(), GetPenWidth(), dash);
     }
-    if (font_ != style.font || IsBold() != style.bold || IsItalic() != style.italic) {
+    if (GetFont() != style.font || IsBold() != style.bold || IsItalic() != style.italic) {
         out.Append("TextFont ");
         if (IsBold()) out.Append('b');
         if (IsItalic()) out.Append('i');
         if (!IsBold() && !IsItalic()) out.Append('n');
         out.Append(' ');
-        out.Append(font_);
+        out.Append(GetFont());
         out.Newline();
-        style.font = font_;
+        style.font = GetFont();
         style.bold = IsBold();
         style.italic = IsItalic();
     }
     // Compared at 2 decimals, written at 1: kept so for the files already out there.
-    const double size = RoundDecimals(size_, 2);
+    const double size = RoundDecimals(GetSize(), 2);
     if (size != style.textSize) {
         out.Append("TextSize ");
-        out.Rounded(size_, 1);
+        out.Rounded(GetSize(), 1);
         out.Newline();
         style.textSize = size;
     }
-    const double matrix[4] = {RoundDecimals(transform_.a, 4), RoundDecimals(transform_.b, 4),
-                              RoundDecimals(transform_.c, 4), RoundDecimals(transform_.d, 4)};
+    const Matrix2D& glyphs = GetTextTransform();
+    const double matrix[4] = {RoundDecimals(glyphs.a, 4), RoundDecimals(glyphs.b, 4),
+                              RoundDecimals(glyphs.c, 4), RoundDecimals(glyphs.d, 4)};
     if (matrix[0] != style.transform[0] || matrix[1] != style.transform[1] ||
         matrix[2] != style.transform[2] || matrix[3] != style.transform[3]) {
         out.Append("TextTransform");
@@ -200,7 +201,7 @@ void TextObject::SaveNative(NativeWriter& out, bool reset) {
     out.Append(' ');
     out.Rounded(position_.y, 4);
     out.Append(' ');
-    for (char c : text_) out.Append(c == '\r' || c == '\n' ? ' ' : c);
+    for (char c : GetText()) out.Append(c == '\r' || c == '\n' ? ' ' : c);
     out.Newline();
 }
 

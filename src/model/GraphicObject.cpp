@@ -22,6 +22,21 @@ void GraphicObject::SetHidden(bool hidden) {
 }
 bool GraphicObject::IsHidden() const { return (flags_ & kFlagHidden) != 0; }
 
+const std::string& GraphicObject::GetName() const {
+    static const std::string none;
+    return name_ != nullptr ? *name_ : none;
+}
+
+void GraphicObject::SetName(std::string name) {
+    if (name.empty()) {
+        name_.reset();
+    } else if (name_ != nullptr) {
+        *name_ = std::move(name);
+    } else {
+        name_ = std::make_unique<std::string>(std::move(name));
+    }
+}
+
 Document* GraphicObject::GetOwner() const {
     const GraphicObject* top = this;
     while (top->parent_ != nullptr) top = top->parent_;
@@ -47,7 +62,7 @@ bool GraphicObject::GetBounds(Rect2&, bool) { return false; }
 
 GraphicObject* GraphicObject::FindByName(const std::string& name, bool includeHidden) {
     if (IsHidden() && !includeHidden) return nullptr;
-    return name_ == name ? this : nullptr;
+    return GetName() == name ? this : nullptr;
 }
 
 GraphicObject* GraphicObject::FindById(std::uint32_t id, bool includeHidden) {

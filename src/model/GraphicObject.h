@@ -100,8 +100,8 @@ public:
     std::uint32_t GetId() const { return id_; }
     std::uint32_t GetFlags() const { return flags_; }
     void SetFlags(std::uint32_t flags) { flags_ = flags; }
-    const std::string& GetName() const { return name_; }
-    void SetName(std::string name) { name_ = std::move(name); }
+    const std::string& GetName() const;
+    void SetName(std::string name);
     // The document at the top of the parent chain; null for an object outside any drawing.
     Document* GetOwner() const;
     // The container that holds this object; null for the document and detached objects.
@@ -112,9 +112,11 @@ private:
     Group* parent_ = nullptr;
     std::uint32_t id_ = 0;
     std::uint32_t flags_ = 0;
-    std::string name_;
+    // Held apart, since few objects carry a name; null for none.
+    std::unique_ptr<std::string> name_;
 
-    friend class Document; // gives itself id 1
+    friend class Document;   // gives itself id 1
+    friend class TextObject; // hands its outline the id reserved for it
 };
 
 // The kind code's test for "is a group, layer or document".

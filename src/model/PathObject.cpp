@@ -16,18 +16,6 @@ int CountDashEntries(const DashDot& dash) {
     return 8;
 }
 
-namespace {
-
-std::uint32_t WithColour(std::uint32_t word, ColorRef color) {
-    return (word & ~kColourMask) | (color & kColourMask);
-}
-
-std::uint32_t WithSwitch(std::uint32_t word, bool on) {
-    return on ? (word | kStyleOn) : (word & ~kStyleOn);
-}
-
-} // namespace
-
 void PathObject::Describe(std::string& out) const {
     char text[48];
     std::snprintf(text, sizeof text, "Pfad mit %d Knoten", static_cast<int>(NodeCount()));

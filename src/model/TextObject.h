@@ -1,19 +1,23 @@
 #pragma once
 
 #include "model/PathObject.h"
+#include "model/TextBody.h"
+#include "model/TextLook.h"
+
+#include <string_view>
 
 namespace rhomba {
 
-// A line of text drawn through the glyph outlines of its font. The outline is a path held by
-// value (not a child) that carries the text's stroke, fill, pen width and dash.
-// Note: the cache holds the text the outline was built from; every setter that changes the look
-// empties it, which marks the outline stale.
+// A line of text drawn through the glyph outlines of its font. The outline is a path (not a
+// child) built on demand that carries the text's stroke, fill, pen width and dash.
+// Note: the cache holds the text the outline was built from; every setter that changes the
+// glyphs empties it, which marks the outline stale.
 class TextObject : public GraphicObject {
 public:
     static constexpr std::uint32_t kBold = 1;
     static constexpr std::uint32_t kItalic = 2;
 
-    TextObject();
+    TextObject() = default;
 
     void Describe(std::string& out) const override;
     void SaveNative(NativeWriter& out, bool reset) override;
@@ -33,21 +37,21 @@ public:
     // Maps the origin and composes the matrix's linear part into the text transform.
     void Transform(const Matrix2D& matrix) override;
 
-    void SetStrokeColor(ColorRef color) override { outline_.SetStrokeColor(color); }
-    ColorRef GetStrokeColor() const override { return outline_.GetStrokeColor(); }
-    void SetStroke(bool on) override { outline_.SetStroke(on); }
-    bool HasStroke() const override { return outline_.HasStroke(); }
-    void SetFillColor(ColorRef color) override { outline_.SetFillColor(color); }
-    ColorRef GetFillColor() const override { return outline_.GetFillColor(); }
-    void SetFill(bool on) override { outline_.SetFill(on); }
-    bool HasFill() const override { return outline_.HasFill(); }
-    void SetPenWidth(double width) override { outline_.SetPenWidth(width); }
-    double GetPenWidth() const override { return outline_.GetPenWidth(); }
-    void SetDashDotRaw(std::uint64_t raw) override { outline_.SetDashDotRaw(raw); }
-    void SetDashDot(const DashDot& dash) override { outline_.SetDashDot(dash); }
-    std::uint64_t GetDashDotRaw() const override { return outline_.GetDashDotRaw(); }
-    bool GetDashDot(DashDot& dash) const override { return outline_.GetDashDot(dash); }
-    int GetDashCount() const override { return outline_.GetDashCount(); }
+    void SetStrokeColor(ColorRef color) override;
+    ColorRef GetStrokeColor() const override { return Look().stroke & kColourMask; }
+    void SetStroke(bool on) override;
+    bool HasStroke() const override { return (Look().stroke & kStyleOn) != 0; }
+    void SetFillColor(ColorRef color) override;
+    ColorRef GetFillColor() const override { return Look().fill & kColourMask; }
+    void SetFill(bool on) override;
+    bool HasFill() const override { return (Look().fill & kStyleOn) != 0; }
+    void SetPenWidth(double width) override;
+    double GetPenWidth() const override { return Look().penWidth; }
+    void SetDashDotRaw(std::uint64_t raw) override;
+    void SetDashDot(const DashDot& dash) override;
+    std::uint64_t GetDashDotRaw() const override;
+    bool GetDashDot(DashDot& dash) const override;
+    int GetDashCount() const override { return CountDashEntries(Look().dash); }
 
     void SetTextFont(const std::string& font) override;
     void SetTextSize(double size) override;
@@ -60,42 +64,47 @@ public:
 
     bool AppendFrom(const GraphicObject& other) override;
 
-    const std::string& GetFont() const { return font_; }
-    const std::string& GetText() const { return text_; }
-    double GetSize() const { return size_; }
+    const std::string& GetFont() const { return Look().font; }
+    std::string_view GetText() const { return body_.View(); }
+    double GetSize() const { return Look().size; }
     Point2 GetPosition() const { return position_; }
     // a, b, c, d of the text transform, with e = f = 0.
-    const Matrix2D& GetTextTransform() const { return transform_; }
-    bool IsBold() const { return (style_ & kBold) != 0; }
-    bool IsItalic() const { return (style_ & kItalic) != 0; }
+    const Matrix2D& GetTextTransform() const { return Look().transform; }
+    bool IsBold() const { return (Look().style & kBold) != 0; }
+    bool IsItalic() const { return (Look().style & kItalic) != 0; }
 
-    PathObject& Outline() { return outline_; }
-    const PathObject& Outline() const { return outline_; }
+    // The first call makes the outline's box; the outline holds no nodes until refreshed.
+    PathObject& Outline() { return OutlineBox().outline; }
+    const PathObject& Outline() const { return OutlineBox().outline; }
     // Rebuilds the outline from the glyphs of the installed glyph source when the cache says it
     // is stale (built with the glyph code, in src/text).
     void RefreshOutline();
     // The sum of the glyph advances, scaled like the outline (as of the last refresh).
-    double GetWidth() const { return width_; }
-    // The end of the baseline: the advance mapped through the outline matrix.
-    Point2 GetEndPoint() const { return endPoint_; }
+    double GetWidth() const;
+    // The end of the baseline: the advance mapped through the outline matrix (the position
+    // itself until an outline is first built).
+    Point2 GetEndPoint() const;
 
     // The text the outline was last built from; empty when the outline is stale.
-    const std::string& GetCache() const { return cache_; }
-    void SetCache(std::string cache) { cache_ = std::move(cache); }
+    const std::string& GetCache() const;
+    void SetCache(std::string cache) { OutlineBox().cache = std::move(cache); }
 
 private:
-    void Invalidate() { cache_.clear(); }
+    const TextLook& Look() const { return look_.Get(); }
+    // Moves to the look that change makes of the current one; a change of the glyphs marks the
+    // outline stale, and a built outline takes the new look's paint either way.
+    template <class Change>
+    void ChangeLook(bool glyphs, Change change);
+    void Invalidate();
+    // The box with the outline, made on first use with this text's id, parent, selection, paint.
+    TextOutlineBox& OutlineBox() const;
+    void PaintOutline(PathObject& outline) const;
 
-    PathObject outline_;
-    std::string font_ = "Arial";
-    std::string text_;
-    double size_ = 12.0;
+    // Note: 40 bytes beside the base, so that a short text costs under 100 bytes all told.
+    SharedLook look_;
+    std::uint32_t outlineId_ = 0; // issued when attached, before the outline exists
     Point2 position_;
-    Matrix2D transform_;
-    std::uint32_t style_ = 0;
-    std::string cache_;
-    double width_ = 0;
-    Point2 endPoint_;
+    mutable TextBody body_;
 };
 
 } // namespace rhomba

@@ -54,4 +54,11 @@ constexpr bool IsContainerKind(ObjectKind kind) { return kind >= ObjectKind::Gro
 inline constexpr std::uint32_t kStyleOn = 0x1000000;
 inline constexpr std::uint32_t kColourMask = 0xFFFFFF;
 
+constexpr std::uint32_t WithColour(std::uint32_t word, ColorRef color) {
+    return (word & ~kColourMask) | (color & kColourMask);
+}
+constexpr std::uint32_t WithSwitch(std::uint32_t word, bool on) {
+    return on ? (word | kStyleOn) : (word & ~kStyleOn);
+}
+
 } // namespace rhomba

@@ -46,21 +46,22 @@ int TextEscapement(const Matrix2D& transform) {
 
 void TextObject::DrawEdit(Device& device, const DrawContext& context, unsigned flags) {
     RefreshOutline();
-    outline_.DrawEdit(device, context, flags);
+    Outline().DrawEdit(device, context, flags);
 }
 
 void TextObject::Render(Device& device, const Matrix2D& view) {
     RefreshOutline();
-    if (text_.empty()) return;
+    if (GetText().empty()) return;
     const bool stroked = HasStroke(), filled = HasFill();
     if (!stroked && !filled) return;
     const ColorRef colour = stroked && filled ? MixTextColour(GetFillColor(), GetStrokeColor())
                             : stroked         ? GetStrokeColor()
                                               : GetFillColor();
     SetDeviceTextColor(device, colour);
-    SelectDeviceFont(device, font_, size_, TextEscapement(transform_), IsBold(), IsItalic());
+    SelectDeviceFont(device, GetFont(), GetSize(), TextEscapement(GetTextTransform()), IsBold(),
+                     IsItalic());
     const DevicePoint anchor = ToDevice(view, position_);
-    device.TextOutW(anchor.x, anchor.y, Cp1252ToUtf16(text_));
+    device.TextOutW(anchor.x, anchor.y, Cp1252ToUtf16(GetText()));
 }
 
 } // namespace rhomba

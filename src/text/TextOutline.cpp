@@ -23,44 +23,49 @@ double BuildGlyphOutlines(GlyphSource& source, const GlyphFace& face, std::u16st
 }
 
 void TextObject::RefreshOutline() {
-    if (text_.empty()) {
+    if (GetText().empty()) {
         // Whatever an earlier text left behind goes, even though the cache already matches.
-        if (outline_.NodeCount() != 0) outline_.ClearNodes();
-        width_ = 0;
-        endPoint_ = position_;
+        if (TextOutlineBox* box = body_.Box()) {
+            if (box->outline.NodeCount() != 0) box->outline.ClearNodes();
+            box->width = 0;
+            box->endPoint = position_;
+        }
         return;
     }
-    if (cache_ == text_) return;
+    TextOutlineBox& box = OutlineBox();
+    if (box.cache == box.text) return;
 
-    outline_.ClearNodes();
-    width_ = 0;
-    endPoint_ = position_;
+    box.outline.ClearNodes();
+    box.width = 0;
+    box.endPoint = position_;
     GlyphSource* source = InstalledGlyphSource();
     // Without a source the cache stays empty, so the outline is built once one is installed.
     if (source == nullptr) return;
-    cache_ = text_;
+    box.cache = box.text;
 
-    const double pen = BuildGlyphOutlines(*source, TextFace(font_, IsBold(), IsItalic()),
-                                          Cp1252ToUtf16(text_), outline_);
+    const TextLook& look = Look();
+    const double pen = BuildGlyphOutlines(*source, TextFace(look.font, IsBold(), IsItalic()),
+                                          Cp1252ToUtf16(box.text), box.outline);
 
     // Scale to the size first, then the text transform, then the position.
-    const double units = 1000.0 / size_;
-    const Matrix2D outline{transform_.a / units, transform_.b / units, transform_.c / units,
-                           transform_.d / units, position_.x,          position_.y};
-    outline_.Transform(outline);
-    endPoint_ = outline.TransformPoint({pen, 0});
-    width_ = pen / units;
+    const double units = 1000.0 / look.size;
+    const Matrix2D& glyphs = look.transform;
+    const Matrix2D outline{glyphs.a / units, glyphs.b / units, glyphs.c / units,
+                           glyphs.d / units, position_.x,      position_.y};
+    box.outline.Transform(outline);
+    box.endPoint = outline.TransformPoint({pen, 0});
+    box.width = pen / units;
 }
 
 bool TextObject::GetBounds(Rect2& bounds, bool withPenWidth) {
     RefreshOutline();
-    if (text_.empty()) return false;
-    return outline_.GetBounds(bounds, withPenWidth);
+    if (GetText().empty()) return false;
+    return Outline().GetBounds(bounds, withPenWidth);
 }
 
 GraphicObject* TextObject::HitTest(Point2 probe, double tolerance) {
     RefreshOutline();
-    return outline_.HitTest(probe, tolerance) != nullptr ? this : nullptr;
+    return Outline().HitTest(probe, tolerance) != nullptr ? this : nullptr;
 }
 
 } // namespace rhomba

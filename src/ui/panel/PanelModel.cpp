@@ -201,7 +201,7 @@ PanelLayout PanelModel::Refresh() {
 
     FillFont();
     const auto* text = static_cast<const TextObject*>(SingleSelected(document_, ObjectKind::Text));
-    Put(Page(kPageText), IDC_PANEL_TEXT, text != nullptr ? text->GetText() : std::string());
+    Put(Page(kPageText), IDC_PANEL_TEXT, text != nullptr ? text->GetText() : std::string_view());
     const GraphicObject* hotspot = SingleSelected(document_, ObjectKind::Hotspot);
     Put(Page(kPageHotspot), IDC_PANEL_HOTSPOT_NAME,
         hotspot != nullptr ? hotspot->GetName() : std::string());
