@@ -30,6 +30,9 @@ TEST_F(Cli, MissingOrWrongArgumentsExitTwoWithUsage) {
     EXPECT_EQ(Apply(kDrawing, {"arrange", "2"}), kExitUsage);
     EXPECT_NE(err.find("step 'arrange 2' not usable; expected: arrange -1|-111|1|111"),
               std::string::npos);
+    for (const char* step : {"sine 10 0 4 0 0 7", "cylinder 30 1 9"}) {
+        EXPECT_EQ(Apply(kDrawing, {"select all", step}), kExitUsage) << step;
+    }
 }
 
 TEST_F(Cli, ConvertKeepsNativeBytesAndWritesSvg) {
@@ -104,6 +107,9 @@ TEST_F(Cli, SelectTakesDirectChildrenOfVisibleLayersOrAnyObjectByIdOrName) {
     // The emptied first layer is taken over by the second Layer line when read back.
     ASSERT_EQ(result.LayerCount(), 1u);
     EXPECT_EQ(result.LayerAt(0).GetName(), "zwei");
+    std::string shown = kDrawing; // every visible layer counts
+    ASSERT_EQ(Apply(shown.replace(shown.find("Evp"), 3, "EVP"), {"select all", "delete"}), kExitOk);
+    EXPECT_EQ(result.CountObjects(), 0);
     // #9 is on the hidden layer; grouping puts the group on the layer of the last selected.
     EXPECT_EQ(Apply(kDrawing, {"select name a", "select id 4", "group", "deselect", "select id 9",
                                "delete", "select id 999", "select name nix"}),

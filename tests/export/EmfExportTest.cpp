@@ -1,5 +1,4 @@
 #include "export/EmfExport.h"
-#include "export/ExportFileName.h"
 #include "export/PrintJob.h"
 #include "model/Document.h"
 #include "model/PathObject.h"
@@ -21,16 +20,6 @@ protected:
 
     Document document;
 };
-
-TEST(EmfFileName, ProposalAndCompletion) {
-    EXPECT_EQ(ProposeExportFileName("C:\\Zeichnungen\\Plan.rhomba", "emf"),
-              "C:\\Zeichnungen\\Plan.emf");
-    EXPECT_EQ(ProposeExportFileName("Plan.ISO", "emf"), "Plan.emf");
-    EXPECT_EQ(ProposeExportFileName("Plan.txt", "emf"), "Plan.txt");
-    EXPECT_EQ(ProposeExportFileName("", "emf"), "Grafik.emf");
-    EXPECT_EQ(CompleteExportFileName("C:\\a.b\\Plan", "emf"), "C:\\a.b\\Plan.emf");
-    EXPECT_EQ(CompleteExportFileName("Plan.wmf", "emf"), "Plan.wmf");
-}
 
 TEST_F(DeviceOutput, EmfSetUpRenderAndStockObjects) {
     AddTriangle(0, 0, 10)->SetSelected(false);
@@ -86,9 +75,8 @@ TEST_F(DeviceOutput, PrintJobStopsWhenTheSpoolerRefuses) {
     device.startDocResult = -1;
     EXPECT_FALSE(RunPrintJob(document, device));
     EXPECT_EQ(device.Calls(), (Calls{"StartDoc 'Neue Graphic.rhomba' 19"}));
-}
 
-TEST_F(DeviceOutput, ZeroResolutionIsTakenAsOne) {
+    // A resolution of zero or less is taken as one.
     device.deviceCaps = {{gdi::kHorzRes, 0}, {gdi::kLogPixelsX, 0}, {gdi::kLogPixelsY, -3}};
     const PrintMetrics m = ReadPrintMetrics(device);
     EXPECT_EQ(m.dpiX, 1);

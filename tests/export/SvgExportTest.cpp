@@ -107,16 +107,18 @@ TEST(SvgExport, GroupsAndLayersAreWrappedWithUniqueIdsAndIndentationStopsAtTwent
     EXPECT_NE(svg.find("\r\n\t\t</g>\r\n\t</g>\r\n</g>\r\n</svg>"), std::string::npos);
 }
 
-TEST(SvgExport, FileNameProposalsAndCompletion) {
-    EXPECT_EQ(ProposeExportFileName("", "svg"), "Grafik.svg");
-    EXPECT_EQ(ProposeExportFileName("C:\\Zeichnungen\\Plan.rhomba", "svg"),
-              "C:\\Zeichnungen\\Plan.svg");
-    EXPECT_EQ(ProposeExportFileName("Plan.ISO", "svg"), "Plan.svg");
-    EXPECT_EQ(ProposeExportFileName("Plan.Pad", "svg"), "Plan.svg");
-    EXPECT_EQ(ProposeExportFileName("Plan.txt", "svg"), "Plan.txt");
-    EXPECT_EQ(CompleteExportFileName("Plan", "svg"), "Plan.svg");
-    EXPECT_EQ(CompleteExportFileName("C:\\a.b\\Plan", "svg"), "C:\\a.b\\Plan.svg");
-    EXPECT_EQ(CompleteExportFileName("Plan.txt", "svg"), "Plan.txt");
+TEST(ExportFileName, ProposalsAndCompletionForEitherFormat) {
+    for (const std::string ext : {"svg", "emf"}) {
+        EXPECT_EQ(ProposeExportFileName("", ext), "Grafik." + ext);
+        EXPECT_EQ(ProposeExportFileName("C:\\Zeichnungen\\Plan.rhomba", ext),
+                  "C:\\Zeichnungen\\Plan." + ext);
+        EXPECT_EQ(ProposeExportFileName("Plan.ISO", ext), "Plan." + ext);
+        EXPECT_EQ(ProposeExportFileName("Plan.Pad", ext), "Plan." + ext);
+        EXPECT_EQ(ProposeExportFileName("Plan.txt", ext), "Plan.txt");
+        EXPECT_EQ(CompleteExportFileName("Plan", ext), "Plan." + ext);
+        EXPECT_EQ(CompleteExportFileName("C:\\a.b\\Plan", ext), "C:\\a.b\\Plan." + ext);
+        EXPECT_EQ(CompleteExportFileName("Plan.wmf", ext), "Plan.wmf");
+    }
 }
 
 TEST(SvgExport, WritingToAnImpossiblePathReportsIt) {

@@ -51,13 +51,21 @@ TEST(Clipboard, PastedCopyKeepsStyleAndNameAndLandsInTheCurrentLayerSelected) {
     EXPECT_EQ(CopySelectionText(doc), copied); // name and style kept
 }
 
-TEST(Clipboard, UnicodeNativeDataIsNarrowedOtherTextConvertedAndMarked) {
+// Converted text is asked about without a preview; no imports nothing.
+TEST(Clipboard, UnicodeNativeDataIsNarrowedOtherTextConvertedMarkedAndAsked) {
     const ClipboardText native = FromUnicodeClipboard(u"Rhomba Version 1.0\r\nRhombaEnd");
     EXPECT_FALSE(native.converted);
     EXPECT_EQ(native.bytes, "Rhomba Version 1.0\r\nRhombaEnd");
-    const ClipboardText other = FromUnicodeClipboard(u"Gr\u00FC\u00DFe \u20AC \u4E2D\U0001F600");
+    const ClipboardText other = FromUnicodeClipboard(u"Gr\u00FC\u00DFe \u20AC \u4E2D\U00010000");
     EXPECT_TRUE(other.converted);
     EXPECT_EQ(other.bytes, "Gr\xFC\xDF" "e \x80 ??");
+
+    Document doc;
+    RecordingReporter reporter;
+    reporter.answers = {false};
+    EXPECT_FALSE(PasteText(doc, {"Hallo", true}, reporter));
+    EXPECT_EQ(reporter.questions, std::vector<std::string>{kAsk});
+    EXPECT_EQ(doc.CurrentLayer().ChildCount(), 0u);
 }
 
 // Lines end at LF, CR LF or a lone CR, as the reader's do; a lone CR once slipped through into
@@ -75,15 +83,6 @@ TEST(Clipboard, TextImportAsksWithPreviewAndMakesOneTextPerLine) {
               "FillColor 0\r\nTextSize 10\r\nText F 20 810 erste Zeile\r\n"
               "\r\nText F 20 790 " + std::string(150, 'x') + "\r\n\r\nText F 20 780 M 0 0\r\n"
               "\r\nText F 20 770 L 1 1\r\n\r\nText F 20 760 B\r\nGroupEnd\r\n\r\nRhombaEnd\r\n");
-}
-
-TEST(Clipboard, ConvertedTextIsAskedWithoutPreviewAndNoImportsNothing) {
-    Document doc;
-    RecordingReporter reporter;
-    reporter.answers = {false};
-    EXPECT_FALSE(PasteText(doc, {"Hallo", true}, reporter));
-    EXPECT_EQ(reporter.questions, std::vector<std::string>{kAsk});
-    EXPECT_EQ(doc.CurrentLayer().ChildCount(), 0u);
 }
 
 TEST(Clipboard, NoAfterTheFirstHundredLinesKeepsLinesZeroToNinetyNine) {

@@ -150,21 +150,18 @@ TEST(NativeFile, RefusesMissingShortAndForeignFilesWithTheirMessages) {
                                         std::string(79, 'x') + " ...");
 }
 
-TEST(NativeFile, LoadsWithByteOrderMarkAndTakesTheFileName) {
+TEST(NativeFile, SavingAndLoadingTakeTheFileNameOnlyOnSuccess) {
     RecordingReporter reporter;
     TempFile bom("bom.rhomba", "\xEF\xBB\xBFRhomba\nHotspot n h"); // 21 bytes: the shortest
-    Document doc;
-    EXPECT_TRUE(LoadNativeFile(doc, bom.path, reporter));
+    Document loaded;
+    EXPECT_TRUE(LoadNativeFile(loaded, bom.path, reporter));
     EXPECT_TRUE(reporter.messages.empty());
-    EXPECT_EQ(doc.GetFileName(), bom.path);
-    EXPECT_EQ(doc.CurrentLayer().ChildCount(), 1u);
-}
+    EXPECT_EQ(loaded.GetFileName(), bom.path);
+    EXPECT_EQ(loaded.CurrentLayer().ChildCount(), 1u);
 
-TEST(NativeFile, SavingWritesTheWholeTextAndTakesTheNameOnlyOnSuccess) {
     TempFile target("ziel.rhomba", std::string(5000, 'o'));
     Document doc;
     doc.AddObject(std::make_unique<Hotspot>());
-    RecordingReporter reporter;
     EXPECT_FALSE(SaveNativeFile(doc, test::MissingFolderPath("x.rhomba"), reporter));
     EXPECT_EQ(doc.GetFileName(), "");
     ASSERT_TRUE(SaveNativeFile(doc, target.path, reporter));

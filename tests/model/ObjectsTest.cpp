@@ -229,20 +229,15 @@ TEST(TextObjectTest, SelectionAndAttachReachTheOutline) {
     EXPECT_EQ(text->GetText(), "Hallo");
 }
 
-TEST(HotspotTest, HitOnlyNearTheEdges) {
-    Hotspot spot;
-    spot.SetRect(0, 10, 20, 0);
-    EXPECT_EQ(spot.HitTest({10, 10.5}, 1), &spot);  // top
-    EXPECT_EQ(spot.HitTest({20.5, 5}, 1), &spot);   // right
-    EXPECT_EQ(spot.HitTest({10, -1}, 1), &spot);    // bottom
-    EXPECT_EQ(spot.HitTest({-0.9, 5}, 1), &spot);   // left
-    EXPECT_EQ(spot.HitTest({10, 5}, 1), nullptr);   // inside
-    EXPECT_EQ(spot.HitTest({30, 30}, 1), nullptr);
-}
-
-TEST(HotspotTest, SetRectAndTransformKeepTheCornersNormalised) {
+TEST(HotspotTest, HitsNearTheEdgesAndKeepsTheCornersNormalised) {
     Hotspot spot;
     spot.SetRect(20, 0, 0, 10);
+    // Top, right, bottom and left hit; the inside and the far outside do not.
+    for (const Point2 p : {Point2{10, 10.5}, Point2{20.5, 5}, Point2{10, -1}, Point2{-0.9, 5}}) {
+        EXPECT_EQ(spot.HitTest(p, 1), &spot) << p.x << " " << p.y;
+    }
+    EXPECT_EQ(spot.HitTest({10, 5}, 1), nullptr);
+    EXPECT_EQ(spot.HitTest({30, 30}, 1), nullptr);
     Rect2 box;
     EXPECT_TRUE(spot.GetBounds(box, true));
     EXPECT_EQ(box, (Rect2{0, 10, 20, 0}));

@@ -22,15 +22,9 @@ TEST(PathGeometry, BoundsCoverControlPointsAndHalfThePen) {
     path.SetPenWidth(4);
     Rect2 box;
     ASSERT_TRUE(path.GetBounds(box, false));
-    EXPECT_EQ(box.left, 0);
-    EXPECT_EQ(box.right, 100);
-    EXPECT_EQ(box.top, 100); // the control points, not the curve's peak at 75
-    EXPECT_EQ(box.bottom, -20);
+    EXPECT_EQ(box, (Rect2{0, 100, 100, -20})); // the control points, not the curve's peak at 75
     ASSERT_TRUE(path.GetBounds(box, true));
-    EXPECT_EQ(box.left, -2);
-    EXPECT_EQ(box.top, 102);
-    EXPECT_EQ(box.right, 102);
-    EXPECT_EQ(box.bottom, -22);
+    EXPECT_EQ(box, (Rect2{-2, 102, 102, -22}));
 
     PathObject empty;
     Rect2 untouched{1, 2, 3, 4};
@@ -39,8 +33,12 @@ TEST(PathGeometry, BoundsCoverControlPointsAndHalfThePen) {
 }
 
 TEST(PathGeometry, HitTestFollowsCurvesAndTheClosingSegment) {
-    PathObject path;
-    FillCurve(path);
+    Document document;
+    auto owned = std::make_unique<PathObject>();
+    FillCurve(*owned);
+    PathObject& path = *owned;
+    document.AddObject(std::move(owned));
+    EXPECT_EQ(document.CurrentLayer().HitTest({100, -10}, 1), &path);
     EXPECT_EQ(path.HitTest({50, 76}, 2), &path);
     EXPECT_EQ(path.HitTest({50, 50}, 2), nullptr);   // inside the arch
     EXPECT_EQ(path.HitTest({50, 99}, 2), nullptr);   // near the control polygon only
@@ -48,14 +46,6 @@ TEST(PathGeometry, HitTestFollowsCurvesAndTheClosingSegment) {
     EXPECT_EQ(path.HitTest({50, -11}, 2), &path);    // the closing line back to (0, 0)
     path.SetType(4, node::kLineTo);
     EXPECT_EQ(path.HitTest({50, -11}, 2), nullptr);  // open now
-}
-
-TEST(PathGeometry, LayerHitTestReachesPaths) {
-    Document document;
-    auto owned = std::make_unique<PathObject>();
-    FillCurve(*owned);
-    GraphicObject* path = document.AddObject(std::move(owned));
-    EXPECT_EQ(document.CurrentLayer().HitTest({100, -10}, 1), path);
 }
 
 TEST(PathGeometry, NearestAndHitNode) {

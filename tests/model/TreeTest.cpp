@@ -187,6 +187,9 @@ TEST(Selection, GroupsSelectTheirInsideAndTheListAddsRemovesToggles) {
     doc.RemoveFromSelection(a);
     EXPECT_FALSE(a->IsSelected());
     EXPECT_EQ(doc.Selection(), std::vector<GraphicObject*>{b});
+    doc.ChangeSelection({a, b}, SelectionChange::Toggle); // as a shift-drag toggles
+    EXPECT_TRUE(a->IsSelected() && !b->IsSelected());
+    EXPECT_EQ(doc.Selection(), std::vector<GraphicObject*>{a});
 }
 
 TEST(Selection, DeleteSelectionCopesWithAnObjectInsideASelectedGroup) {
@@ -263,7 +266,8 @@ TEST(HitTesting, GroupsAnswerForThemselvesLayersForTheTopmostChild) {
     EXPECT_EQ(doc.HitTest({200, 205}, 0.5), below);
 }
 
-TEST(Transforming, ContainersHandTheMatrixToEveryChild) {
+// Containers hand the matrix on to every child; empty groups count as nothing.
+TEST(Containers, TransformReachesEveryChildAndEmptyGroupsCountNothing) {
     Document doc;
     auto group = std::make_unique<Group>();
     auto* spot = static_cast<Hotspot*>(group->InsertAt(Spot(0, 10, 10, 0), &doc, 0, 0));
@@ -272,21 +276,15 @@ TEST(Transforming, ContainersHandTheMatrixToEveryChild) {
     path->AddNode({1, 2}, node::kMoveTo);
     path->AddNode({3, 4}, node::kLineTo);
     auto* line = static_cast<PathObject*>(doc.AddObject(std::move(path)));
+    auto empty = std::make_unique<Group>();
+    empty->InsertAt(std::make_unique<Group>(), &doc, 0, 0);
+    doc.AddObject(std::move(empty));
+    EXPECT_EQ(doc.CountObjects(), 2);
 
     doc.Transform(Matrix2D::Translation(5, -5));
     EXPECT_EQ(spot->GetRect(), (Rect2{5, 5, 15, -5}));
     EXPECT_EQ(line->PointAt(0), (Point2{6, -3}));
     EXPECT_EQ(line->PointAt(1), (Point2{8, -1}));
-}
-
-TEST(Counting, EmptyGroupsCountNothing) {
-    Document doc;
-    auto group = std::make_unique<Group>();
-    group->InsertAt(std::make_unique<Group>(), &doc, 0, 0);
-    group->InsertAt(Spot(0, 1, 1, 0), &doc, 0, 0);
-    doc.AddObject(std::move(group));
-    doc.AddObject(std::make_unique<Group>());
-    EXPECT_EQ(doc.CountObjects(), 1);
 }
 
 TEST(View, StartsAtHalfZoomWithTheCanvasScaleAndFlippedY) {

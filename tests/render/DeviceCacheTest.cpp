@@ -62,16 +62,13 @@ TEST_F(Helpers, FontFaceComparisonIsExactAndLongFacesAreCut) {
     EXPECT_EQ(device.LiveObjects(), 1u);
 }
 
-TEST_F(Helpers, TextColourOnlyWhenItChanges) {
+TEST_F(Helpers, TextColourOnlyWhenItChangesNullPenOnlyWhenThePenCacheIsValid) {
     ResetDeviceCache();
     SetDeviceTextColor(device, 0x123456);
     SetDeviceTextColor(device, 0x123456);
     SetDeviceTextColor(device, 0);
     EXPECT_EQ(device.Calls(), (Calls{"SetTextColor 0x123456", "SetTextColor 0x000000"}));
-}
-
-TEST_F(Helpers, NullPenOnlyWhenThePenCacheIsValid) {
-    ResetDeviceCache();
+    device.ClearCalls();
     SelectDeviceNullPen(device);
     EXPECT_TRUE(device.Calls().empty());
     SelectDevicePen(device, 0xFF, 1, DashDot{}, 0);

@@ -131,13 +131,6 @@ TEST_F(PathRender, BlackHairlineMatchesTheUnresetCache) {
     EXPECT_EQ(device.SelectedPen(), "BLACK_PEN");
 }
 
-TEST_F(PathRender, OnePointPathDrawsNothing) {
-    PathObject path;
-    path.AddNode({1, 1}, node::kMoveTo);
-    path.Render(device, kTwenty);
-    EXPECT_TRUE(device.Calls().empty());
-}
-
 TEST_F(PathRender, DeviceTypeBytes) {
     PathObject path;
     path.SetFill(false);
@@ -151,13 +144,15 @@ TEST_F(PathRender, DeviceTypeBytes) {
 }
 
 TEST(DeviceRound, HalfUpThenTowardZero) {
-    EXPECT_EQ(DeviceRound(2.5), 3);
-    EXPECT_EQ(DeviceRound(2.49), 2);
-    EXPECT_EQ(DeviceRound(-0.7), 0);
-    EXPECT_EQ(DeviceRound(-3.7), -3);
-    EXPECT_EQ(DeviceRound(-3.2), -2);
-    EXPECT_EQ(DeviceRound(1e300), 2147483647);
-    EXPECT_EQ(DeviceRound(-1e300), -2147483647 - 1);
+    const std::pair<double, int> rows[] = {{2.5, 3},
+                                           {2.49, 2},
+                                           {-0.7, 0},
+                                           {-3.7, -3},
+                                           {-3.2, -2},
+                                           {1e300, 2147483647},
+                                           {-1e300, -2147483647 - 1}};
+    for (const auto& [value, rounded] : rows)
+        EXPECT_EQ(DeviceRound(value), rounded) << value;
 }
 
 } // namespace

@@ -83,25 +83,25 @@ TEST_F(ScreenDraw, HighlightFillsBlackInOutlineViewAndMarksTheSelection) {
     EXPECT_TRUE(device.Calls().empty());
 }
 
-TEST_F(ScreenDraw, TwoPointFillOnlyOnTheDevice) {
-    PathObject path;
-    path.SetStroke(false);
-    path.AddNode({0, 0}, node::kMoveTo);
-    path.AddNode({10, 10}, node::kLineTo);
-    path.DrawEdit(device, {}, 0);
-    EXPECT_TRUE(device.Calls().empty());
-    path.Render(device, Matrix2D{});
-    EXPECT_EQ(device.CountNamed("FillPath"), 1u);
-}
-
-TEST_F(ScreenDraw, OnePointPathShowsOnlyItsNode) {
+// One point shows only its node and renders nothing; two points fill only on the device.
+TEST_F(ScreenDraw, TooFewPointsForAFigure) {
     PathObject path;
     path.AddNode({3, 4}, node::kMoveTo);
+    path.Render(device, Matrix2D{});
+    EXPECT_TRUE(device.Calls().empty());
     path.DrawEdit(device, {}, 0);
     EXPECT_EQ(device.CountNamed("PolyDraw"), 1u);
     device.ClearCalls();
     path.DrawEdit(device, {}, kDrawNodesOnly);
     EXPECT_EQ(device.CallsNamed("Rectangle"), (Calls{"Rectangle -1 0 7 8", "Rectangle -1 0 7 8"}));
+
+    path.SetStroke(false);
+    path.AddNode({10, 10}, node::kLineTo);
+    device.ClearCalls();
+    path.DrawEdit(device, {}, 0);
+    EXPECT_TRUE(device.Calls().empty());
+    path.Render(device, Matrix2D{});
+    EXPECT_EQ(device.CountNamed("FillPath"), 1u);
 }
 
 TEST_F(ScreenDraw, HotspotRectangleCornerByCorner) {
